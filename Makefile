@@ -1,0 +1,47 @@
+# make run   installs what is missing, builds and starts MORVE
+# make test  the same, then runs every test
+BUILD   ?= build
+CMAKE_FLAGS ?= -DCMAKE_BUILD_TYPE=Release
+PACKAGES := g++ cmake ninja-build qt6-base-dev qt6-charts-dev qt6-svg-dev libqt6opengl6-dev \
+            libgif-dev nlohmann-json3-dev libgtest-dev libbenchmark-dev xvfb xauth poppler-utils
+
+.PHONY: all deps configure build run test bench screenshots install clean
+
+all: build
+
+deps:
+	@missing=""; for p in $(PACKAGES); do \
+	  dpkg-query -W -f='$${Status}' $$p 2>/dev/null | grep -q 'install ok installed' || missing="$$missing $$p"; \
+	done; \
+	if [ -n "$$missing" ]; then \
+	  echo "Instalando pacotes:$$missing"; \
+	  if [ "$$(id -u)" -eq 0 ]; then SUDO=""; else SUDO=sudo; fi; \
+	  $$SUDO apt-get update -qq && \
+	  DEBIAN_FRONTEND=noninteractive $$SUDO apt-get install -y -qq --no-install-recommends $$missing >/dev/null; \
+	fi
+
+configure: deps
+	@[ -f $(BUILD)/build.ninja ] || cmake -S . -B $(BUILD) -G Ninja $(CMAKE_FLAGS) >/dev/null
+
+build: configure
+	@cmake --build $(BUILD) -j2
+
+run: build
+	@if [ -x $(BUILD)/morve ]; then MORVE_DATA_DIR=$(CURDIR)/data $(BUILD)/morve; \
+	else $(BUILD)/morve-calc --list && $(BUILD)/morve-calc examples/form7-armadura-simples.json; fi
+
+test: build
+	@cd $(BUILD) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j2
+
+bench: configure
+	@cmake --build $(BUILD) -j2 --target morve_bench && $(BUILD)/morve_bench
+
+screenshots: build
+	@mkdir -p $(BUILD)/screenshots
+	@QT_QPA_PLATFORM=offscreen MORVE_DATA_DIR=$(CURDIR)/data $(BUILD)/morve --screenshots $(BUILD)/screenshots
+
+install: build
+	@cmake --install $(BUILD)
+
+clean:
+	rm -rf $(BUILD)

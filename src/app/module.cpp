@@ -1,0 +1,95 @@
+#include "app/module.h"
+
+#include <algorithm>
+#include <map>
+
+#include "reports/report_writer.h"
+
+namespace morve {
+
+void Module::load(FormState&, const StartDefaults&) const {}
+
+void Module::report(const std::string&, const FormState&, ReportWriter&) const {}
+
+Drawing Module::drawing(const std::string&, const FormState&) const { return {}; }
+
+namespace {
+
+std::map<std::string, std::unique_ptr<Module>>& registry() {
+    static std::map<std::string, std::unique_ptr<Module>> modules;
+    return modules;
+}
+
+}  // namespace
+
+void ModuleRegistry::add(std::unique_ptr<Module> module) {
+    std::string key = module->info().key;
+    registry()[key] = std::move(module);
+}
+
+const Module* ModuleRegistry::find(const std::string& key) {
+    auto it = registry().find(key);
+    return it == registry().end() ? nullptr : it->second.get();
+}
+
+std::vector<std::string> ModuleRegistry::keys() {
+    std::vector<std::string> out;
+    for (const auto& [key, module] : registry()) out.push_back(key);
+    return out;
+}
+
+ModuleSession::ModuleSession(const Module& module, const StartDefaults& defaults)
+    : module_(&module), info_(module.info()), state_(info_.key, module.screens()) {
+    module.load(state_, defaults);
+    shown_.push_back(info_.key);
+}
+
+Outcome ModuleSession::press(const std::string& command, Prompter& prompter) {
+    Outcome outcome = module_->press(command, state_, prompter);
+    if (!outcome.focus.empty()) outcome.focus = state_.qualify(outcome.focus);
+    apply(outcome);
+    return outcome;
+}
+
+void ModuleSession::apply(const Outcome& outcome) {
+    for (const auto& e : outcome.effects) {
+        switch (e.kind) {
+            case EffectKind::ShowScreen:
+                if (!screenShown(e.target)) shown_.push_back(e.target);
+                break;
+            case EffectKind::HideScreen:
+            case EffectKind::UnloadScreen:
+                shown_.erase(std::remove(shown_.begin(), shown_.end(), e.target), shown_.end());
+                break;
+            case EffectKind::EnableControl: state_.setEnabled(e.target, true); break;
+            case EffectKind::DisableControl: state_.setEnabled(e.target, false); break;
+            case EffectKind::ShowControl: state_.setVisible(e.target, true); break;
+            case EffectKind::HideControl: state_.setVisible(e.target, false); break;
+            case EffectKind::EnableScreen:
+            case EffectKind::DisableScreen:
+            case EffectKind::StartReport: break;  // the front end's windows
+        }
+    }
+}
+
+bool ModuleSession::screenShown(const std::string& screen) const {
+    return std::find(shown_.begin(), shown_.end(), screen) != shown_.end();
+}
+
+const char* effectKindName(EffectKind kind) {
+    switch (kind) {
+        case EffectKind::ShowScreen: return "show";
+        case EffectKind::HideScreen: return "hide";
+        case EffectKind::UnloadScreen: return "unload";
+        case EffectKind::EnableScreen: return "enableScreen";
+        case EffectKind::DisableScreen: return "disableScreen";
+        case EffectKind::EnableControl: return "enable";
+        case EffectKind::DisableControl: return "disable";
+        case EffectKind::ShowControl: return "showControl";
+        case EffectKind::HideControl: return "hideControl";
+        case EffectKind::StartReport: return "report";
+    }
+    return "";
+}
+
+}  // namespace morve

@@ -1,0 +1,84 @@
+#pragma once
+// The contract of a calculation module: its screens as data, the defaults it puts
+// in them, what each of its commands does, its reports and its pictures. A module
+// is written once here and runs unchanged under the desktop and the case runner.
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "app/form_state.h"
+#include "app/outcome.h"
+#include "app/prompter.h"
+#include "app/screen.h"
+#include "app/start_defaults.h"
+#include "draw/drawing.h"
+
+namespace morve {
+
+class ReportWriter;
+
+struct ModuleInfo {
+    std::string key;                   // "Form7": main screen, report and help
+    std::vector<std::string> unloads;  // companions unloaded, in order, by "Novo",
+                                       // "Início" and the close, before the module
+    std::string printKey;              // report of the toolbar's "Imprimir"; "" for none
+    std::string calculate = "Command1";  // the "&CALCULAR" button
+    bool files = false;                // "Abrir" and "Salvar" act
+};
+
+class Module {
+public:
+    virtual ~Module() = default;
+    virtual ModuleInfo info() const = 0;
+    // The main screen first, then its companions.
+    virtual std::vector<ScreenDecl> screens() const = 0;
+    // Defaults from the start dialog into the boxes (the declared defaults are
+    // already there).
+    virtual void load(FormState& state, const StartDefaults& defaults) const;
+    virtual Outcome press(const std::string& command, FormState& state, Prompter& prompter) const = 0;
+    // The lines of the report of a key this module owns; the title is written by
+    // the caller.
+    virtual void report(const std::string& key, const FormState& state, ReportWriter& out) const;
+    // The picture shown in a picture box ("Form8b.Picture1"); empty when none.
+    virtual Drawing drawing(const std::string& picture, const FormState& state) const;
+};
+
+// Modules register themselves by key; the menu enables what is registered.
+class ModuleRegistry {
+public:
+    static void add(std::unique_ptr<Module> module);
+    static const Module* find(const std::string& key);
+    static std::vector<std::string> keys();
+};
+
+template <class M>
+struct RegisterModule {
+    RegisterModule() { ModuleRegistry::add(std::make_unique<M>()); }
+};
+
+// A module opened from the menu: its boxes and the screens it shows. Every press
+// goes through here so that the enabling and showing that a command asks for is
+// kept in one place for all front ends.
+class ModuleSession {
+public:
+    ModuleSession(const Module& module, const StartDefaults& defaults);
+
+    const Module& module() const { return *module_; }
+    const ModuleInfo& info() const { return info_; }
+    FormState& state() { return state_; }
+    const FormState& state() const { return state_; }
+
+    Outcome press(const std::string& command, Prompter& prompter);
+    // The effects of a command done outside a module (a screen closed by its
+    // window's own close, say) are kept the same way.
+    void apply(const Outcome& outcome);
+    bool screenShown(const std::string& screen) const;
+
+private:
+    const Module* module_;
+    ModuleInfo info_;
+    FormState state_;
+    std::vector<std::string> shown_;
+};
+
+}  // namespace morve

@@ -1,0 +1,46 @@
+#pragma once
+// What pressing a command did: whether the calculation ran to its end, which
+// control takes the focus, and the changes to the screens, in the order they happen.
+#include <string>
+#include <vector>
+
+namespace morve {
+
+enum class EffectKind {
+    ShowScreen,     // target "Form8"
+    HideScreen,
+    UnloadScreen,
+    EnableScreen,
+    DisableScreen,
+    EnableControl,  // target "Form7.Command3", "Form7.Toolbar1.Imprimir"
+    DisableControl,
+    ShowControl,    // a control or a frame
+    HideControl,
+    StartReport,    // target: the report key; the report panel opens for it
+};
+
+struct ScreenEffect {
+    EffectKind kind;
+    std::string target;
+    bool operator==(const ScreenEffect&) const = default;
+};
+
+struct Outcome {
+    bool completed = false;
+    std::string focus;  // qualified control name, empty when the focus stays
+    std::vector<ScreenEffect> effects;
+
+    static Outcome done() { return Outcome{true, {}, {}}; }
+    static Outcome stop(std::string focus = {}) { return Outcome{false, std::move(focus), {}}; }
+    Outcome& then(EffectKind kind, std::string target) {
+        effects.push_back({kind, std::move(target)});
+        return *this;
+    }
+};
+
+// The toolbar's "Imprimir" of a module window, as a control name.
+inline std::string printButton(const std::string& screen) { return screen + ".Toolbar1.Imprimir"; }
+
+const char* effectKindName(EffectKind kind);
+
+}  // namespace morve

@@ -1,0 +1,55 @@
+#pragma once
+// How a calculation talks to its user. The desktop shows modal boxes; the case
+// runner answers from the case file; tests script the answers and keep every text.
+#include <deque>
+#include <string>
+#include <vector>
+
+namespace morve {
+
+inline const std::string kBoxTitle = "MORVE";
+
+enum class MessageKind { Warning, YesNo, OkCancel };
+
+class Prompter {
+public:
+    virtual ~Prompter() = default;
+    virtual void warn(const std::string& text, const std::string& title = kBoxTitle) = 0;
+    // true for Yes; the box's default button is No.
+    virtual bool askYesNo(const std::string& text, const std::string& title = kBoxTitle) = 0;
+    // true for OK.
+    virtual bool askOkCancel(const std::string& text, const std::string& title = kBoxTitle) = 0;
+};
+
+struct Message {
+    MessageKind kind;
+    std::string title;
+    std::string text;
+    std::string answer;  // "ok", "yes", "no", "cancel"
+};
+
+// Answers questions from a queue; when it runs out a Yes/No gets "no" and an
+// OK/Cancel gets "cancel", so the calculation goes on with the values as typed.
+class ScriptedPrompter : public Prompter {
+public:
+    ScriptedPrompter() = default;
+    explicit ScriptedPrompter(std::vector<std::string> answers);
+
+    void warn(const std::string& text, const std::string& title = kBoxTitle) override;
+    bool askYesNo(const std::string& text, const std::string& title = kBoxTitle) override;
+    bool askOkCancel(const std::string& text, const std::string& title = kBoxTitle) override;
+
+    const std::vector<Message>& messages() const { return messages_; }
+    // Messages since the last call, for reporting one press at a time.
+    std::vector<Message> takeMessages();
+
+private:
+    std::string next(const std::string& fallback);
+    std::deque<std::string> answers_;
+    std::vector<Message> messages_;
+    std::size_t taken_ = 0;
+};
+
+const char* messageKindName(MessageKind kind);
+
+}  // namespace morve

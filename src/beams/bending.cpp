@@ -1,0 +1,69 @@
+#include "beams/bending.h"
+
+#include <cmath>
+
+#include "basis/messages.h"
+
+namespace morve {
+
+double rectangularLimitMoment(double xlim, const StressBlockValues& block) {
+    return xlim * block.lambda * (1 - 0.5 * block.lambda * xlim);
+}
+
+ReducedSteel doubleReinforcement(double mu, double mulim, double omegaLimit, double xlim,
+                                 double delta, const StressBlockValues& block, double es,
+                                 double fyd) {
+    ReducedSteel r;
+    if (xlim < block.ecu / (block.ecu + 10)) {
+        r.stop = BendingStop::Domain2;
+        return r;
+    }
+    if (xlim < delta) {
+        r.stop = BendingStop::SectionTooSmall;
+        return r;
+    }
+    double strain = (xlim - delta) * block.ecu / xlim / 1000;
+    double stress = BilinearStress(es, strain, fyd);
+    r.omegaPrime = (mu - mulim) * fyd / ((1 - delta) * stress);
+    r.omega = omegaLimit + (mu - mulim) / (1 - delta);
+    return r;
+}
+
+ReducedSteel designRectangle(double mu, double xlim, double delta, const StressBlockValues& block,
+                             double es, double fyd) {
+    double mulim = rectangularLimitMoment(xlim, block);
+    if (mu <= mulim) {
+        ReducedSteel r;
+        double xi = (1 - std::sqrt(1 - 2 * mu)) / block.lambda;
+        r.omega = xi * block.lambda;
+        return r;
+    }
+    return doubleReinforcement(mu, mulim, xlim * block.lambda, xlim, delta, block, es, fyd);
+}
+
+const std::string& bendingStopMessage(BendingStop stop) {
+    static const std::string none;
+    if (stop == BendingStop::Domain2) return msg::kDomain2;
+    if (stop == BendingStop::SectionTooSmall) return msg::kEnlargeSection;
+    return none;
+}
+
+void checkBeamMaterials(CheckSequence& checks, const FormState& state, const BeamMaterialBoxes& boxes) {
+    double fck = state.number(boxes.fck);
+    checkConcreteRange(checks, fck, boxes.fck);
+    checkAggressiveness(checks, state.text(boxes.classList), fck, boxes.classList, boxes.fck);
+    checkPositiveFyk(checks, state.number(boxes.fyk), boxes.fyk);
+    checkPositiveEs(checks, state.number(boxes.es), boxes.es);
+    checkSteelClass(checks, state.number(boxes.fyk), boxes.fyk);
+    checkCodeModulus(checks, state.number(boxes.es), boxes.es);
+}
+
+bool applyMinimumAndRate(CheckSequence& checks, double& as, double asPrime, double ac, double fck,
+                         double fyd) {
+    double asMin = MinimumSteelRatio(fck, fyd * 10) * ac;
+    if (as < asMin) as = asMin;
+    checks.warnIf((as + asPrime) / ac > 0.04, msg::kSteelRateAbove4);
+    return !checks.stopped();
+}
+
+}  // namespace morve

@@ -1,0 +1,34 @@
+#pragma once
+// The report of a bending design, shared by the rectangle and the T section: they
+// differ only in the boxes they read and in the lines of the section.
+#include <string>
+#include <vector>
+
+#include "app/form_state.h"
+#include "reports/report_writer.h"
+
+namespace morve {
+
+struct SectionReportLine {
+    std::string leftLabel, leftBox, rightLabel, rightBox;  // values in cm
+};
+
+struct BendingReportLayout {
+    std::string fck, fyk, es, gamac, gamas, gamaf;
+    std::vector<SectionReportLine> section;
+    std::string moment;
+    std::string betaList = "List3";
+    std::string criterionList = "List2";
+    std::string as, asPrime;
+};
+
+// From "Propriedades dos materiais:" to the line of the ductility criterion.
+void writeBendingHead(ReportWriter& out, const FormState& state, const BendingReportLayout& layout);
+// Blank, "SOLUÇÃO:", blank and the two areas.
+void writeBendingSolution(ReportWriter& out, const FormState& state, const BendingReportLayout& layout);
+
+// xlim/d as the report prints it: the balanced limit with three decimals, the
+// others as the arithmetic gives them.
+std::string ductilityLine(const FormState& state, const BendingReportLayout& layout);
+
+}  // namespace morve

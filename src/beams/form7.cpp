@@ -1,0 +1,182 @@
+#include "beams/form7.h"
+
+#include <cmath>
+
+#include "app/numbers.h"
+#include "basis/checks.h"
+#include "basis/messages.h"
+#include "basis/start_values.h"
+#include "beams/bending.h"
+#include "beams/bending_report.h"
+#include "reports/report_writer.h"
+
+namespace morve {
+
+namespace {
+
+RegisterModule<Form7> registration;
+
+const BendingReportLayout& reportLayout() {
+    static const BendingReportLayout layout{
+        "Text1", "Text2", "Text9", "Text13", "Text14", "Text15",
+        {{"Largura b= ", "Text3", "Altura h= ", "Text4"},
+         {"Altura útil d= ", "Text5", "Distância d'= ", "Text10"}},
+        "Text6", "List3", "List2", "Text7", "Text8"};
+    return layout;
+}
+
+}  // namespace
+
+ModuleInfo Form7::info() const {
+    ModuleInfo i;
+    i.key = "Form7";
+    i.unloads = {"FormAjuda", "Form8b", "Form8"};
+    i.printKey = "Form7";
+    return i;
+}
+
+ScreenDecl Form7::mainScreen() {
+    ScreenBuilder s("Form7", " DIMENSIONAMENTO À FLEXÃO SIMPLES DE SEÇÕES RETANGULARES ");
+    s.frame("Frame1", "Materiais", 0, 0)
+        .box("Text1", "fck(MPa)=", "20")
+        .box("Text2", "fyk(MPa)=", "500")
+        .box("Text9", "Es(GPa)=", "200");
+    s.frame("Frame2", "Coeficientes parciais", 1, 0)
+        .box("Text13", "Gamac=", "1.4")
+        .box("Text14", "Gamas=", "1.15")
+        .box("Text15", "Gamaf=", "1.4");
+    s.frame("Frame3", "Seção transversal", 0, 1, 2, 1)
+        .box("Text3", "b(cm)=", "20")
+        .box("Text4", "h(cm)=", "40")
+        .box("Text5", "d(cm)=", "36")
+        .box("Text10", "d'(cm)=", "")
+        .box("Text6", "Mk(kNm)=", "", "", KeyFilter::SignedNumber);
+    s.frame("Frame4", "", 0, 2, 2, 1).picture("Picture1", 220, 260);
+    s.frame("Frame5", "Classe de agressividade ambiental", 2, 0)
+        .list("List6", "Classe de agressividade ambiental", aggressivenessItems());
+    s.frame("Frame6", "Ductilidade", 2, 1)
+        .list("List2", "xlim/d = ", ductilityItems(), ductilityItems().front())
+        .tip("Critério de ductilidade. Consulte a Ajuda.");
+    s.frame("Frame7", "Coeficiente de redistribuição", 2, 2)
+        .list("List3", "Beta=", redistributionItems(), redistributionItems().front());
+    s.frame("Frame8", "RESPOSTA", 3, 0, 1, 2)
+        .result("Text7", "Armadura tracionada: As(cm2) =")
+        .result("Text8", "Armadura comprimida: A's(cm2) =");
+    s.frame("Frame9", "", 3, 2)
+        .command("Command1", "&CALCULAR", "Realizar o dimensionamento")
+        .command("Command3", "Detalhamento", "Detalhar as armaduras da viga")
+        .disabled();
+    return s.build();
+}
+
+std::vector<ScreenDecl> Form7::screens() const { return {mainScreen()}; }
+
+void Form7::load(FormState& state, const StartDefaults& defaults) const {
+    loadMaterialDefaults(state, defaults, {"Text1", "Text2", "Text9", 3});
+}
+
+Outcome Form7::press(const std::string& command, FormState& state, Prompter& prompter) const {
+    if (command == "Command1" || command == "Form7.Command1") return calculate(state, prompter);
+    if (command == "Command3" || command == "Form7.Command3") return detail(state);
+    return Outcome::stop();
+}
+
+Outcome Form7::calculate(FormState& s, Prompter& prompter) const {
+    s.setText("Text7", " ");
+    s.setText("Text8", " ");
+    // The class goes to the detailing before any check can stop the run.
+    s.setVar("AggressivenessClass", s.text("List6"));
+
+    const double fck = s.number("Text1"), fyk = s.number("Text2"), es = s.number("Text9");
+    const double b = s.number("Text3"), h = s.number("Text4"), d = s.number("Text5");
+    const double dPrime = s.number("Text10");
+    double mk = s.number("Text6");
+    const double gamac = s.number("Text13"), gamas = s.number("Text14"), gamaf = s.number("Text15");
+
+    CheckSequence checks(prompter);
+    checkBeamMaterials(checks, s, {"Text1", "List6", "Text2", "Text9"});
+    checks.warnIf(b <= 0, msg::positiveValue("b"), "Text3");
+    checkBeamWidth(checks, b, "Text3");
+    checks.warnIf(h <= 0, msg::kPositiveH, "Text4")
+        .warnIf(d <= 0, msg::kPositiveD, "Text5")
+        .warnIf(d >= h, msg::kDBelowH, "Text5")
+        .warnIf(mk == 0, "Forneça um valor não nulo para Mk.", "Text6");
+    mk = std::fabs(mk);  // a negative moment is designed by its size, without a word
+    checks.warnIf(dPrime <= 0, msg::kPositiveDPrime, "Text10")
+        .warnIf(d <= dPrime, msg::kDPrimeBelowD, "Text10");
+    checkPartialCoefficients(checks, {{gamac, "Text13"}, {gamas, "Text14"}, {gamaf, "Text15"}});
+    if (checks.stopped()) return checks.outcome();
+
+    const double beta = s.number("List3");
+    const auto criterion = ductilityCriterion(s.text("List2")).value_or(DuctilityCriterion::CEB90);
+    const double xlim = DuctilityLimit(criterion, beta, fck, fyk, gamas, es);
+    checkBalancedBeta(checks, criterion, beta, "List2");
+    if (checks.stopped()) return checks.outcome();
+
+    const StressBlockValues block = StressBlock(fck);
+    const double md = gamaf * mk * 100;
+    const double fcd = fck / 10 / gamac, fyd = fyk / 10 / gamas;
+    const double sigmacd = block.alphac * fcd;
+    const double mu = md / (b * d * d * sigmacd);
+
+    ReducedSteel steel = designRectangle(mu, xlim, dPrime / d, block, es * 100, fyd);
+    checks.warnIf(steel.stop != BendingStop::None, bendingStopMessage(steel.stop), "Text4");
+    if (checks.stopped()) return checks.outcome();
+
+    const double unit = b * d * sigmacd / fyd;
+    double as = steel.omega * unit;
+    const double asPrime = steel.omegaPrime * unit;
+    if (!applyMinimumAndRate(checks, as, asPrime, b * h, fck, fyd)) return checks.outcome();
+
+    s.setText("Text7", formatResult(as));
+    s.setText("Text8", formatResult(asPrime));
+    return Outcome::done()
+        .then(EffectKind::EnableControl, "Form7.Command3")
+        .then(EffectKind::EnableControl, printButton("Form7"));
+}
+
+Outcome Form7::detail(FormState& s) {
+    s.setText("Form8.Text1", s.text("Form7.Text7"));
+    s.setText("Form8.Text2", s.text("Form7.Text8"));
+    return Outcome::done()
+        .then(EffectKind::HideScreen, "FormAjuda")
+        .then(EffectKind::ShowScreen, "Form0b")
+        .then(EffectKind::HideScreen, "Form7")
+        .then(EffectKind::ShowScreen, "Form8");
+}
+
+void Form7::report(const std::string& key, const FormState& state, ReportWriter& out) const {
+    if (key != "Form7") return;
+    writeBendingHead(out, state, reportLayout());
+    writeBendingSolution(out, state, reportLayout());
+}
+
+Drawing Form7::drawing(const std::string& picture, const FormState&) const {
+    if (picture == "Form7.Picture1" || picture == "Picture1") return rectangularSectionSketch();
+    return {};
+}
+
+Drawing rectangularSectionSketch() {
+    // A 20 x 40 section drawn in its own centimetres, with room for the labels.
+    Drawing g;
+    g.left = -9;
+    g.top = -5;
+    g.right = 33;
+    g.bottom = 47;
+    g.rectangle({0, 0}, {20, 40}, colours::black, 2);
+    g.rectangle({0, 0}, {20, 40}, colours::lightGrey, 1, true);
+    g.rectangle({0, 0}, {20, 40}, colours::black, 2);
+    for (double x : {4.0, 10.0, 16.0}) {
+        g.circle({x, 4}, 1.2, colours::blue, true);
+        g.circle({x, 36}, 1.6, colours::red, true);
+    }
+    g.text({10, 8.5}, "A's", 9, TextAlign::Centre, colours::blue);
+    g.text({10, 32}, "As", 9, TextAlign::Centre, colours::red);
+    g.dimension({0, 43}, {20, 43}, "b", 0, 2.5);
+    g.dimension({-4, 0}, {-4, 40}, "h", -2.5, 0);
+    g.dimension({24, 0}, {24, 36}, "d", 2.5, 0);
+    g.dimension({29, 0}, {29, 4}, "d'", 2.8, 0);
+    return g;
+}
+
+}  // namespace morve

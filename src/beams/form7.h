@@ -1,0 +1,27 @@
+#pragma once
+// Dimensionamento à flexão simples de seções retangulares: the longitudinal steel
+// of a rectangular beam section under the service moment Mk, with compression
+// steel where the ductility limit calls for it.
+#include "app/module.h"
+
+namespace morve {
+
+class Form7 : public Module {
+public:
+    ModuleInfo info() const override;
+    std::vector<ScreenDecl> screens() const override;
+    void load(FormState& state, const StartDefaults& defaults) const override;
+    Outcome press(const std::string& command, FormState& state, Prompter& prompter) const override;
+    void report(const std::string& key, const FormState& state, ReportWriter& out) const override;
+    Drawing drawing(const std::string& picture, const FormState& state) const override;
+
+    static ScreenDecl mainScreen();
+    Outcome calculate(FormState& state, Prompter& prompter) const;
+    static Outcome detail(FormState& state);
+};
+
+// The fixed sketch of a rectangular section with its steel, labelled b, h, d, d',
+// As and A's.
+Drawing rectangularSectionSketch();
+
+}  // namespace morve

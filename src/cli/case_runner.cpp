@@ -1,0 +1,172 @@
+#include "cli/case_runner.h"
+
+#include <algorithm>
+
+#include "app/catalogue.h"
+
+namespace morve {
+
+using nlohmann::json;
+
+namespace {
+
+StartDefaults readStartup(const json& c) {
+    StartDefaults d;
+    if (!c.contains("startup")) return d;
+    const json& s = c.at("startup");
+    if (!s.is_object()) throw CaseError("\"startup\" deve ser um objeto");
+    const std::pair<const char*, int> fields[] = {
+        {"fck", 1}, {"stirrups", 2}, {"bars", 3}, {"ecs", 4}, {"es", 5}};
+    for (const auto& [key, value] : s.items()) {
+        auto it = std::find_if(std::begin(fields), std::end(fields),
+                               [&](const auto& f) { return key == f.first; });
+        if (it == std::end(fields)) throw CaseError("opção de início desconhecida: " + key);
+        std::string text = value.is_string() ? value.get<std::string>() : value.dump();
+        if (!d.select(it->second, text))
+            throw CaseError("valor de início inexistente para " + key + ": " + text);
+    }
+    return d;
+}
+
+std::string textOf(const json& v) {
+    if (v.is_string()) return v.get<std::string>();
+    if (v.is_number() || v.is_boolean()) return v.dump();
+    if (v.is_null()) return "";
+    throw CaseError("valor inválido: " + v.dump());
+}
+
+void applySet(ModuleSession& session, const json& set) {
+    if (!set.is_object()) throw CaseError("\"set\" deve ser um objeto");
+    FormState& state = session.state();
+    for (const auto& [name, value] : set.items()) {
+        const ControlDecl* decl = state.declaration(name);
+        if (!decl) throw CaseError("controle desconhecido: " + name);
+        switch (decl->kind) {
+            case ControlKind::List: {
+                std::string item = textOf(value);
+                if (!item.empty() &&
+                    std::find(decl->items.begin(), decl->items.end(), item) == decl->items.end())
+                    throw CaseError("item inexistente na lista " + name + ": " + item);
+                state.setText(name, item);
+                break;
+            }
+            case ControlKind::Option:
+            case ControlKind::Check: {
+                bool on = value.is_boolean() ? value.get<bool>() : textOf(value) == "true";
+                state.setOption(name, on);
+                break;
+            }
+            case ControlKind::TextBox:
+            case ControlKind::ResultBox: state.setText(name, textOf(value)); break;
+            default: throw CaseError("o controle não recebe texto: " + name);
+        }
+    }
+}
+
+void applyGrids(ModuleSession& session, const json& grids) {
+    if (!grids.is_object()) throw CaseError("\"grids\" deve ser um objeto");
+    FormState& state = session.state();
+    for (const auto& [name, rows] : grids.items()) {
+        const ControlDecl* decl = state.declaration(name);
+        if (!decl || decl->kind != ControlKind::Grid) throw CaseError("grade desconhecida: " + name);
+        if (!rows.is_array()) throw CaseError("as linhas da grade " + name + " devem ser uma lista");
+        GridRows& grid = state.grid(name);
+        grid.resize(1);
+        for (const auto& row : rows) {
+            if (!row.is_array()) throw CaseError("linha inválida na grade " + name);
+            std::vector<std::string> cells;
+            for (const auto& cell : row) cells.push_back(textOf(cell));
+            cells.resize(std::max(cells.size(), decl->grid.header.size()));
+            grid.push_back(std::move(cells));
+        }
+    }
+}
+
+bool isCommand(const FormState& state, const std::string& name) {
+    const ControlDecl* decl = state.declaration(name);
+    return decl && decl->kind == ControlKind::Command;
+}
+
+json fieldsOf(const FormState& state) {
+    json fields = json::object();
+    for (const auto& [name, text] : state.texts()) fields[name] = text;
+    return fields;
+}
+
+json gridsOf(const FormState& state) {
+    json grids = json::object();
+    for (const auto& [name, rows] : state.grids()) grids[name] = rows;
+    return grids;
+}
+
+}  // namespace
+
+json parseCase(const std::string& text) {
+    try {
+        return json::parse(text);
+    } catch (const json::parse_error& e) {
+        throw CaseError(std::string("o arquivo do caso não é JSON válido: ") + e.what());
+    }
+}
+
+CaseRun runCase(const json& c) {
+    if (!c.is_object() || !c.contains("module") || !c.at("module").is_string())
+        throw CaseError("o caso deve indicar o módulo: {\"module\": \"Form7\", ...}");
+    const std::string key = c.at("module").get<std::string>();
+    const Module* module = ModuleRegistry::find(key);
+    if (!module) {
+        if (ModuleCatalogue::byModule(key))
+            throw CaseError("o módulo " + key + " ainda não está disponível nesta versão");
+        throw CaseError("módulo desconhecido: " + key);
+    }
+
+    CaseRun run;
+    run.session = std::make_unique<ModuleSession>(*module, readStartup(c));
+    ModuleSession& session = *run.session;
+    if (c.contains("set")) applySet(session, c.at("set"));
+    if (c.contains("grids")) applyGrids(session, c.at("grids"));
+
+    std::vector<std::string> presses{session.info().calculate};
+    if (c.contains("press")) {
+        const json& p = c.at("press");
+        if (!p.is_array()) throw CaseError("\"press\" deve ser uma lista de botões");
+        presses.clear();
+        for (const auto& name : p) presses.push_back(textOf(name));
+    }
+    for (const auto& name : presses)
+        if (!isCommand(session.state(), name)) throw CaseError("botão desconhecido: " + name);
+
+    std::vector<std::string> answers;
+    if (c.contains("answers")) {
+        const json& a = c.at("answers");
+        if (!a.is_array()) throw CaseError("\"answers\" deve ser uma lista");
+        for (const auto& v : a) answers.push_back(textOf(v));
+    }
+    ScriptedPrompter prompter(answers);
+
+    json steps = json::array();
+    for (const auto& name : presses) {
+        Outcome o = session.press(name, prompter);
+        json messages = json::array();
+        for (const auto& m : prompter.takeMessages())
+            messages.push_back({{"kind", messageKindName(m.kind)},
+                                {"title", m.title},
+                                {"text", m.text},
+                                {"answer", m.answer}});
+        json effects = json::array();
+        for (const auto& e : o.effects)
+            effects.push_back({{"kind", effectKindName(e.kind)}, {"target", e.target}});
+        steps.push_back({{"press", name},
+                         {"completed", o.completed},
+                         {"focus", o.focus.empty() ? json(nullptr) : json(o.focus)},
+                         {"messages", messages},
+                         {"effects", effects}});
+    }
+    run.outcome = {{"module", key},
+                   {"steps", steps},
+                   {"fields", fieldsOf(session.state())},
+                   {"grids", gridsOf(session.state())}};
+    return run;
+}
+
+}  // namespace morve

@@ -1,0 +1,28 @@
+#pragma once
+// Runs one case file through a module as the desktop would: Load, the typed
+// texts, the presses with their answers. The outcome is JSON for the caller.
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+#include <nlohmann/json.hpp>
+
+#include "app/module.h"
+
+namespace morve {
+
+// A case that cannot be run as written (bad JSON, unknown module or control).
+class CaseError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+struct CaseRun {
+    std::unique_ptr<ModuleSession> session;
+    nlohmann::json outcome;
+};
+
+CaseRun runCase(const nlohmann::json& caseFile);
+nlohmann::json parseCase(const std::string& text);
+
+}  // namespace morve

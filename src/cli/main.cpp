@@ -1,0 +1,85 @@
+// morve-calc: runs a case file through a module and prints the outcome as JSON,
+// or writes the module's report.
+#include <cstdio>
+#include <fstream>
+#include <iostream>
+#include <sstream>
+#include <string>
+
+#include "app/catalogue.h"
+#include "cli/case_runner.h"
+#include "cli/report_file.h"
+
+namespace {
+
+const char* kUsage =
+    "uso: morve-calc CASO.json\n"
+    "     morve-calc --report SAIDA.pdf|SAIDA.txt [--key CHAVE] [--title TITULO] CASO.json\n"
+    "     morve-calc --list\n";
+
+int listModules() {
+    for (const auto& key : morve::ModuleRegistry::keys()) {
+        const morve::CatalogueRow* row = morve::ModuleCatalogue::byModule(key);
+        std::cout << key << "\t" << (row ? row->reportTitle : "") << "\t";
+        if (row)
+            for (std::size_t i = 0; i < row->reportKeys.size(); ++i)
+                std::cout << (i ? " " : "") << row->reportKeys[i];
+        std::cout << "\n";
+    }
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    std::string casePath, reportPath, key, title;
+    for (int i = 1; i < argc; ++i) {
+        std::string a = argv[i];
+        auto value = [&](const char* what) -> std::string {
+            if (i + 1 >= argc) {
+                std::cerr << "morve-calc: falta o valor de " << what << "\n" << kUsage;
+                std::exit(2);
+            }
+            return argv[++i];
+        };
+        if (a == "--list") return listModules();
+        if (a == "--help" || a == "-h") {
+            std::cout << kUsage;
+            return 0;
+        }
+        if (a == "--report") reportPath = value("--report");
+        else if (a == "--key") key = value("--key");
+        else if (a == "--title") title = value("--title");
+        else if (!a.empty() && a[0] == '-') {
+            std::cerr << "morve-calc: opção desconhecida: " << a << "\n" << kUsage;
+            return 2;
+        } else casePath = a;
+    }
+    if (casePath.empty()) {
+        std::cerr << kUsage;
+        return 2;
+    }
+    std::ifstream in(casePath, std::ios::binary);
+    if (!in) {
+        std::cerr << "morve-calc: não foi possível ler " << casePath << "\n";
+        return 2;
+    }
+    std::stringstream text;
+    text << in.rdbuf();
+    try {
+        morve::CaseRun run = morve::runCase(morve::parseCase(text.str()));
+        if (!reportPath.empty()) {
+            std::string error = morve::writeReportFile(*run.session, reportPath, key, title);
+            if (!error.empty()) {
+                std::cerr << "morve-calc: " << error << "\n";
+                return 2;
+            }
+        } else {
+            std::cout << run.outcome.dump(2) << "\n";
+        }
+    } catch (const morve::CaseError& e) {
+        std::cerr << "morve-calc: " << casePath << ": " << e.what() << "\n";
+        return 2;
+    }
+    return 0;
+}
