@@ -26,6 +26,7 @@ FormState::FormState(std::string mainScreen, const std::vector<ScreenDecl>& scre
             } else if (c.kind == ControlKind::Option || c.kind == ControlKind::Check) {
                 texts_[q] = c.checked ? kTrue : "";
             } else if (c.kind == ControlKind::Command || c.kind == ControlKind::Picture ||
+                       c.kind == ControlKind::Chart ||
                        c.kind == ControlKind::Label) {
                 // no text of their own
             } else {

@@ -13,6 +13,8 @@ void Module::report(const std::string&, const FormState&, ReportWriter&) const {
 
 Drawing Module::drawing(const std::string&, const FormState&) const { return {}; }
 
+Chart Module::chart(const std::string&, const FormState&) const { return {}; }
+
 namespace {
 
 std::map<std::string, std::unique_ptr<Module>>& registry() {
@@ -40,6 +42,8 @@ std::vector<std::string> ModuleRegistry::keys() {
 
 ModuleSession::ModuleSession(const Module& module, const StartDefaults& defaults)
     : module_(&module), info_(module.info()), state_(info_.key, module.screens()) {
+    // Every module opens with the toolbar's "Imprimir" disabled until a calculation succeeds.
+    state_.setEnabled(printButton(info_.key), false);
     module.load(state_, defaults);
     shown_.push_back(info_.key);
 }

@@ -11,6 +11,7 @@
 #include "app/prompter.h"
 #include "app/screen.h"
 #include "app/start_defaults.h"
+#include "draw/chart.h"
 #include "draw/drawing.h"
 
 namespace morve {
@@ -41,6 +42,8 @@ public:
     virtual void report(const std::string& key, const FormState& state, ReportWriter& out) const;
     // The picture shown in a picture box ("Form8b.Picture1"); empty when none.
     virtual Drawing drawing(const std::string& picture, const FormState& state) const;
+    // The chart of a chart control ("Form13c.Chart1"); empty when none.
+    virtual Chart chart(const std::string& control, const FormState& state) const;
 };
 
 // Modules register themselves by key; the menu enables what is registered.

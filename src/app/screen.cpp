@@ -112,6 +112,12 @@ ScreenBuilder& ScreenBuilder::picture(std::string name, int width, int height) {
     return *this;
 }
 
+ScreenBuilder& ScreenBuilder::chart(std::string name, int width, int height) {
+    picture(std::move(name), width, height);
+    screen_.controls.back().kind = ControlKind::Chart;
+    return *this;
+}
+
 ScreenBuilder& ScreenBuilder::command(std::string name, std::string caption, std::string toolTip) {
     ControlDecl c;
     c.kind = ControlKind::Command;

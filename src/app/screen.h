@@ -19,6 +19,7 @@ enum class ControlKind {
     Check,
     Grid,       // rows of cells; row 0 is the header
     Picture,    // a Drawing from the module
+    Chart,      // an XY chart from the module
     Command,    // a button
 };
 
@@ -85,6 +86,7 @@ public:
     ScreenBuilder& check(std::string name, std::string caption, bool checked = false);
     ScreenBuilder& grid(std::string name, GridDecl grid);
     ScreenBuilder& picture(std::string name, int width, int height);
+    ScreenBuilder& chart(std::string name, int width, int height);
     ScreenBuilder& command(std::string name, std::string caption, std::string toolTip = "");
     // Adjust the control declared last.
     ScreenBuilder& tip(std::string toolTip);
