@@ -70,6 +70,15 @@ void checkBeamWidth(CheckSequence& checks, double b, const std::string& widthBox
     checks.askIf(b < 12, msg::kBeamWidth, widthBox);
 }
 
+void checkSectionMaterials(CheckSequence& checks, double fck, const std::string& fckBox, double fyk,
+                           const std::string& fykBox, double es, const std::string& esBox) {
+    checkConcreteRange(checks, fck, fckBox);
+    checkPositiveFyk(checks, fyk, fykBox);
+    checkPositiveEs(checks, es, esBox);
+    checkSteelClass(checks, fyk, fykBox);
+    checkCodeModulus(checks, es, esBox);
+}
+
 void checkPartialCoefficients(CheckSequence& checks, const std::vector<Coefficient>& coefficients) {
     for (const auto& c : coefficients) checks.warnIf(c.value < 1, msg::kPartialCoefficient, c.box);
 }

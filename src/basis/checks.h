@@ -52,6 +52,10 @@ void checkSteelClass(CheckSequence& checks, double fyk, const std::string& fykBo
 void checkCodeModulus(CheckSequence& checks, double es, const std::string& esBox);
 // Width below 12 cm asks whether to correct it.
 void checkBeamWidth(CheckSequence& checks, double b, const std::string& widthBox);
+// The material checks of the section solvers, in their order: fck range, fyk and
+// Es positive, steel class, code modulus.
+void checkSectionMaterials(CheckSequence& checks, double fck, const std::string& fckBox, double fyk,
+                           const std::string& fykBox, double es, const std::string& esBox);
 // Each of the coefficients in turn must be 1 or more.
 void checkPartialCoefficients(CheckSequence& checks, const std::vector<Coefficient>& coefficients);
 // "Balanceada" allows no redistribution.

@@ -11,6 +11,12 @@ StressBlockValues StressBlock(double fck) {
             2.6 + 35 * std::pow((90 - fck) / 100, 4)};
 }
 
+StressBlockParametersValues StressBlockParameters(double fck) {
+    StressBlockValues b = StressBlock(fck);
+    double epsC2 = fck <= 50 ? 2.0 : 2 + 0.085 * std::pow(fck - 50, 0.53);
+    return {b.alphac, b.lambda, epsC2, b.ecu, 1 - epsC2 / b.ecu};
+}
+
 const std::vector<std::string>& ductilityItems() {
     static const std::vector<std::string> items{"CEB/90", "NBR-6118", "Balanceada"};
     return items;

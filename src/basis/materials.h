@@ -14,6 +14,14 @@ struct StressBlockValues {
 };
 StressBlockValues StressBlock(double fck);
 
+// The block of the column and tie solvers: the beam block with the strains that
+// place the pivots of the strain diagram (per mille) and kappa = 1 - eps_c2/eps_cu,
+// the relative height that stays at eps_c2 when the whole section is compressed.
+struct StressBlockParametersValues {
+    double alphac, lambda, epsC2, epsCu, kappa;
+};
+StressBlockParametersValues StressBlockParameters(double fck);
+
 enum class DuctilityCriterion { CEB90, NBR6118, Balanced };
 // The text of the "Ductilidade" list; nothing for an unknown text.
 std::optional<DuctilityCriterion> ductilityCriterion(const std::string& listText);
