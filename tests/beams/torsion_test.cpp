@@ -3,7 +3,6 @@
 // shows, and the two fixed pages of the report.
 #include <gtest/gtest.h>
 
-#include <map>
 #include <string>
 #include <vector>
 
@@ -11,38 +10,42 @@
 #include "basis/messages.h"
 #include "beams/shear_common.h"
 #include "beams/torsion.h"
-#include "reports/report_dispatch.h"
-#include "reports/report_writer.h"
+#include "shear_support.h"
 
 namespace morve {
 namespace {
 
-using Inputs = std::map<std::string, std::string>;
+using namespace shear_test;
 
-struct TorsionRun {
-    ModuleSession session;
-    Outcome outcome;
-    std::vector<Message> messages;
-};
-
-TorsionRun calculate(const Inputs& inputs, std::vector<std::string> answers = {}) {
-    TorsionRun run{ModuleSession(*ModuleRegistry::find("Form6"), StartDefaults{}), {}, {}};
-    for (const auto& [name, value] : inputs) run.session.state().setText(name, value);
-    ScriptedPrompter prompter(std::move(answers));
-    run.outcome = run.session.press("Command1", prompter);
-    run.messages = prompter.messages();
-    return run;
+ModuleRun calculate(const Inputs& inputs, std::vector<std::string> answers = {}) {
+    return runModule("Form6", inputs, std::move(answers));
 }
 
 // Defaults: fck 20, fyk 500, Es 200, b 25, h 40, CEB/90, Beta 1.00.
-Inputs with(Inputs changes) {
-    Inputs in{{"Text9", "4"}, {"Text10", "50"}, {"Text11", "50"}, {"Text12", "10"}, {"List1", "6.3"}};
-    for (const auto& [k, v] : changes) in[k] = v;
-    return in;
+Inputs with(const Inputs& changes) {
+    return changed({{"Text9", "4"}, {"Text10", "50"}, {"Text11", "50"}, {"Text12", "10"}, {"List1", "6.3"}},
+                   changes);
 }
 
 const char* const kResultBoxes[] = {"Text1", "Text2", "Text3", "Text4", "Text5", "Text6",
                                     "Text7", "Text8", "Text9", "Text10", "Text11"};
+
+TEST(Form6Load, BarSteelAndModulusOfTheStartDialog) {
+    StartDefaults d;
+    d.select(2, "CA-50");
+    d.select(3, "CA-60");
+    d.select(5, "NBR-6118");
+    ModuleSession session(*ModuleRegistry::find("Form6"), d);
+    const FormState& s = session.state();
+    EXPECT_EQ(s.text("Text2"), "600");
+    EXPECT_EQ(s.text("Text3"), "210");
+    EXPECT_EQ(s.text("List1"), "");
+    EXPECT_EQ(s.text("List2"), "CEB/90");
+    EXPECT_EQ(s.text("List3"), "1.00");
+    const ModuleInfo info = session.info();
+    EXPECT_EQ(info.unloads, (std::vector<std::string>{"FormAjuda", "Form6b"}));
+    EXPECT_EQ(info.printKey, "");
+}
 
 struct DesignCase {
     const char* what;
@@ -111,7 +114,7 @@ const DesignCase kDesignCases[] = {
 TEST(Form6Design, MatchesTheHandCalculations) {
     for (const auto& c : kDesignCases) {
         SCOPED_TRACE(c.what);
-        TorsionRun run = calculate(c.in);
+        ModuleRun run = calculate(c.in);
         ASSERT_TRUE(run.outcome.completed);
         EXPECT_TRUE(run.messages.empty());
         std::vector<std::string> got;
@@ -134,7 +137,7 @@ TEST(Form6Design, HollowSectionOfTheTwoBranches) {
 }
 
 TEST(Form6Screens, SuccessShowsTheResultsAndTheirButtonsActOnThem) {
-    TorsionRun run = calculate(with({}));
+    ModuleRun run = calculate(with({}));
     ASSERT_TRUE(run.outcome.completed);
     const std::vector<ScreenEffect> shown{{EffectKind::HideScreen, "Form6"},
                                           {EffectKind::ShowScreen, "Form0b"},
@@ -155,15 +158,6 @@ TEST(Form6Screens, SuccessShowsTheResultsAndTheirButtonsActOnThem) {
     EXPECT_FALSE(run.session.screenShown("Form6b"));
     EXPECT_EQ(back.effects.front(), (ScreenEffect{EffectKind::ShowScreen, "Form0b"}));
 }
-
-struct CheckCase {
-    const char* what;
-    Inputs in;
-    std::vector<std::string> answers;
-    std::string text;
-    MessageKind kind;
-    std::string focus;
-};
 
 const CheckCase kChecks[] = {
     {"low fck", with({{"Text1", "19"}, {"Text2", "0"}}), {}, msg::kLowFck, MessageKind::Warning, ""},
@@ -219,38 +213,32 @@ const CheckCase kChecks[] = {
 TEST(Form6Checks, EachStopsWithItsWordsAndFocusAndLeavesTheResultsAlone) {
     for (const auto& c : kChecks) {
         SCOPED_TRACE(c.what);
-        TorsionRun run = calculate(c.in, c.answers);
-        EXPECT_FALSE(run.outcome.completed);
-        EXPECT_EQ(run.outcome.focus, c.focus);
-        ASSERT_EQ(run.messages.size(), 1u);
-        EXPECT_EQ(run.messages[0].text, c.text);
-        EXPECT_EQ(run.messages[0].kind, c.kind);
-        EXPECT_TRUE(run.outcome.effects.empty());
+        ModuleRun run = calculate(c.in, c.answers);
+        expectStop(run, c);
         EXPECT_EQ(run.session.state().text("Form6b.Text1"), "");
     }
 }
 
+TEST(Form6Checks, AStopAfterASuccessLeavesTheEarlierResultsShown) {
+    ModuleRun run = calculate(with({}));
+    ASSERT_TRUE(run.outcome.completed);
+    const std::string as = run.session.state().text("Form6b.Text1");
+    run.session.state().setText("Form6.Text12", "0");
+    ScriptedPrompter prompter;
+    EXPECT_FALSE(run.session.press("Command1", prompter).completed);
+    EXPECT_EQ(run.session.state().text("Form6b.Text1"), as);
+}
+
 TEST(Form6Checks, NoToTheQuestionsGoesOn) {
-    TorsionRun run = calculate(with({{"Text2", "550"}, {"Text3", "205"}, {"Text7", "11.9"},
+    ModuleRun run = calculate(with({{"Text2", "550"}, {"Text3", "205"}, {"Text7", "11.9"},
                                      {"Text10", "10"}, {"Text12", "1"}}),
                                {"no", "no", "no"});
     EXPECT_TRUE(run.outcome.completed);
     EXPECT_EQ(run.messages.size(), 3u);
 }
 
-std::vector<std::string> reportLines(const ModuleSession& session) {
-    ReportWriter out;
-    EXPECT_TRUE(generateReport("Form6b", session.module(), session.state(), out));
-    std::vector<std::string> lines;
-    for (const auto& block : out.document().blocks) {
-        if (const auto* l = std::get_if<ReportLine>(&block)) lines.push_back(l->text());
-        if (std::holds_alternative<PageBreak>(block)) lines.push_back("<page>");
-    }
-    return lines;
-}
-
 TEST(Form6Report, TwoFixedPagesFromTheBoxesOfBothScreens) {
-    TorsionRun run = calculate(kDesignCases[0].in);
+    ModuleRun run = calculate(kDesignCases[0].in);
     ASSERT_TRUE(run.outcome.completed);
     const std::vector<std::string> expected{
         "Propriedades dos materiais:",
@@ -290,7 +278,7 @@ TEST(Form6Report, TwoFixedPagesFromTheBoxesOfBothScreens) {
         "Para o momento torçor Td:    Asw,T= 3.48 cm2/m",
         "Estribos de 8 mm     Espaçamento = 12 cm(2 ramos)",
     };
-    EXPECT_EQ(reportLines(run.session), expected);
+    EXPECT_EQ(reportLines(run.session, "Form6b"), expected);
 
     // Page 1 holds the header and the data, page 2 the solution.
     ReportWriter out;
@@ -304,12 +292,12 @@ TEST(Form6Report, TwoFixedPagesFromTheBoxesOfBothScreens) {
 TEST(Form6Report, DuctilityWithThreeDecimalsForEveryCriterion) {
     // Balanced, CA-50, Es 200: eyd = 43.478/20000 = 0.0021739; xlim = 3.5/5.6739 = 0.61686.
     // NBR-6118 at Beta 0.85, fck 20: 0.68 - 0.35 = 0.33 (0.33000000000000007 unrounded).
-    TorsionRun balanced = calculate(with({{"List2", "Balanceada"}}));
-    EXPECT_EQ(reportLines(balanced.session)[18],
+    ModuleRun balanced = calculate(with({{"List2", "Balanceada"}}));
+    EXPECT_EQ(reportLines(balanced.session, "Form6b")[18],
               "Critério de ductilidade: Condição balanceada. xlim / d = 0.617");
-    TorsionRun nbr = calculate(with({{"List2", "NBR-6118"}, {"List3", "0.85"}}));
-    EXPECT_EQ(reportLines(nbr.session)[18], "Critério de ductilidade: NBR-6118.  xlim/d = 0.33");
-    EXPECT_EQ(reportLines(nbr.session)[17], "Coeficiente de redistribuição de momentos: Beta = 0.85");
+    ModuleRun nbr = calculate(with({{"List2", "NBR-6118"}, {"List3", "0.85"}}));
+    EXPECT_EQ(reportLines(nbr.session, "Form6b")[18], "Critério de ductilidade: NBR-6118.  xlim/d = 0.33");
+    EXPECT_EQ(reportLines(nbr.session, "Form6b")[17], "Coeficiente de redistribuição de momentos: Beta = 0.85");
 }
 
 }  // namespace
