@@ -9,7 +9,6 @@
 #include "app/module.h"
 #include "basis/messages.h"
 #include "beams/shear_common.h"
-#include "beams/torsion.h"
 #include "shear_support.h"
 
 namespace morve {
@@ -122,18 +121,6 @@ TEST(Form6Design, MatchesTheHandCalculations) {
             got.push_back(run.session.state().text(std::string("Form6b.") + box));
         EXPECT_EQ(got, c.results);
     }
-}
-
-TEST(Form6Design, HollowSectionOfTheTwoBranches) {
-    // 25 x 40, d' 3: he = 7.69 >= 6, Ae = (40 - 7.69)(25 - 7.69) = 559.3, ue = 2 x 53 = 106.
-    HollowSection thick = torsionHollowSection(25, 40, 3);
-    EXPECT_NEAR(thick.te, 1000.0 / 130, 1e-12);
-    EXPECT_NEAR(thick.ae, (40 - 1000.0 / 130) * (25 - 1000.0 / 130), 1e-9);
-    EXPECT_DOUBLE_EQ(thick.ue, 106);
-    // d' 4 puts the wall on the bars: Ae = 32 x 17.
-    HollowSection onBars = torsionHollowSection(25, 40, 4);
-    EXPECT_NEAR(onBars.te, 1000.0 / 130, 1e-12);
-    EXPECT_DOUBLE_EQ(onBars.ae, 544);
 }
 
 TEST(Form6Screens, SuccessShowsTheResultsAndTheirButtonsActOnThem) {
