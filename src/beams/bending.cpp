@@ -41,6 +41,32 @@ ReducedSteel designRectangle(double mu, double xlim, double delta, const StressB
     return doubleReinforcement(mu, mulim, xlim * block.lambda, xlim, delta, block, es, fyd);
 }
 
+TeeSteel designTee(double mu, double xlim, double eta, double r, double delta,
+                   const StressBlockValues& block, double es, double fyd) {
+    TeeSteel t;
+    const double y = xlim * block.lambda;  // depth of the block at the limit, over d
+    if (!(eta < y)) {
+        // The test is strict: a flange exactly as deep as the block is a rectangle.
+        t.branch = TeeBranch::Rectangle;
+        t.steel = designRectangle(mu, xlim, delta, block, es, fyd);
+        return t;
+    }
+    const double omegaLimit = (y - eta) * r + eta;
+    const double mulim = (y - eta) * r * (1 - (y + eta) / 2) + (1 - eta / 2) * eta;
+    if (mu > mulim) {
+        t.steel = doubleReinforcement(mu, mulim, omegaLimit, xlim, delta, block, es, fyd);
+        return t;
+    }
+    const double muf = (1 - eta / 2) * eta;  // the whole flange at sigmacd
+    if (muf < mu) {
+        const double m = (mu - muf) / r + muf;  // what the web takes, over bw d^2 sigmacd
+        t.steel.omega = (1 - r) * eta + (1 - std::sqrt(1 - 2 * m)) * r;
+    } else {
+        t.steel.omega = 1 - std::sqrt(1 - 2 * mu);
+    }
+    return t;
+}
+
 const std::string& bendingStopMessage(BendingStop stop) {
     static const std::string none;
     if (stop == BendingStop::Domain2) return msg::kDomain2;

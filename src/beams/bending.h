@@ -35,6 +35,26 @@ ReducedSteel doubleReinforcement(double mu, double mulim, double omegaLimit, dou
 ReducedSteel designRectangle(double mu, double xlim, double delta, const StressBlockValues& block,
                              double es, double fyd);
 
+// Where the compression block of a T section lies at the ductility limit.
+enum class TeeBranch {
+    Web,        // the block at the limit reaches below the flange
+    Rectangle,  // it stays in the flange: a rectangle of width bf
+};
+
+// A T section, in the same reduced terms with bf as the reference width:
+// eta = hf / d, r = bw / bf. Below the limit the block may still sit in the
+// flange (omega = 1 - sqrt(1 - 2 mu)) or enter the web, where the overhangs of
+// the flange carry their share and the web takes the rest.
+struct TeeSteel {
+    TeeBranch branch = TeeBranch::Web;
+    ReducedSteel steel;
+};
+TeeSteel designTee(double mu, double xlim, double eta, double r, double delta,
+                   const StressBlockValues& block, double es, double fyd);
+
+// Said by the T modules when the flange is not wider than the web.
+inline const std::string kFlangeWiderThanWeb = "A largura da mesa deve ser maior que a largura da nervura.";
+
 // The message of a stop, "" for none.
 const std::string& bendingStopMessage(BendingStop stop);
 

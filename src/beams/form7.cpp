@@ -8,6 +8,7 @@
 #include "basis/start_values.h"
 #include "beams/bending.h"
 #include "beams/bending_report.h"
+#include "beams/detailing.h"
 #include "reports/report_writer.h"
 
 namespace morve {
@@ -69,7 +70,9 @@ ScreenDecl Form7::mainScreen() {
     return s.build();
 }
 
-std::vector<ScreenDecl> Form7::screens() const { return {mainScreen()}; }
+std::vector<ScreenDecl> Form7::screens() const {
+    return {mainScreen(), detailingScreen(form8Setup()), detailingResultScreen(form8Setup())};
+}
 
 void Form7::load(FormState& state, const StartDefaults& defaults) const {
     loadMaterialDefaults(state, defaults, {"Text1", "Text2", "Text9", 3});
@@ -78,6 +81,8 @@ void Form7::load(FormState& state, const StartDefaults& defaults) const {
 Outcome Form7::press(const std::string& command, FormState& state, Prompter& prompter) const {
     if (command == "Command1" || command == "Form7.Command1") return calculate(state, prompter);
     if (command == "Command3" || command == "Form7.Command3") return detail(state);
+    if (isDetailingCommand(form8Setup(), command))
+        return pressDetailing(form8Setup(), command, state, prompter);
     return Outcome::stop();
 }
 
@@ -146,13 +151,18 @@ Outcome Form7::detail(FormState& s) {
 }
 
 void Form7::report(const std::string& key, const FormState& state, ReportWriter& out) const {
+    if (key == "Form8b") {
+        writeDetailingReport(out, state, reportLayout(), form8Setup(), drawing("Form8b.Picture1", state));
+        return;
+    }
     if (key != "Form7") return;
     writeBendingHead(out, state, reportLayout());
     writeBendingSolution(out, state, reportLayout());
 }
 
-Drawing Form7::drawing(const std::string& picture, const FormState&) const {
+Drawing Form7::drawing(const std::string& picture, const FormState& state) const {
     if (picture == "Form7.Picture1" || picture == "Picture1") return rectangularSectionSketch();
+    if (picture == "Form8b.Picture1") return detailingDrawing(form8Setup(), state);
     return {};
 }
 
