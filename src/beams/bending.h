@@ -5,6 +5,7 @@
 #include <string>
 
 #include "app/form_state.h"
+#include "app/screen.h"
 #include "basis/checks.h"
 #include "basis/materials.h"
 
@@ -65,6 +66,24 @@ struct BeamMaterialBoxes {
     std::string fck, classList, fyk, es;
 };
 void checkBeamMaterials(CheckSequence& checks, const FormState& state, const BeamMaterialBoxes& boxes);
+
+// The frames of a design screen around its section: materials (fck Text1, fyk
+// Text2, Es in esBox) and coefficients (Text13 to Text15) on the left, the class,
+// the ductility criterion and Beta in the row under them.
+void addMaterialFrames(ScreenBuilder& s, const std::string& esBox);
+void addCriterionFrames(ScreenBuilder& s);
+
+// What a bending design works from once its boxes have passed their checks.
+struct DesignBasis {
+    double xlim = 0;
+    StressBlockValues block{};
+    double md = 0;  // kNcm
+    double fyd = 0, sigmacd = 0;  // kN/cm2
+};
+// xlim by the criterion of List2 and the Beta of List3 (the balanced limit allows
+// no redistribution: that stops the run), the block, Md = Gamaf Mk.
+DesignBasis designBasis(CheckSequence& checks, const FormState& state, double fck, double fyk,
+                        double es, double gamac, double gamas, double gamaf, double mk);
 
 // The minimum on the tension steel (over the concrete area ac) and the 4% limit
 // of the total rate. Returns false when the rate stops the run (message given).

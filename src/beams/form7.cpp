@@ -38,14 +38,7 @@ ModuleInfo Form7::info() const {
 
 ScreenDecl Form7::mainScreen() {
     ScreenBuilder s("Form7", " DIMENSIONAMENTO À FLEXÃO SIMPLES DE SEÇÕES RETANGULARES ");
-    s.frame("Frame1", "Materiais", 0, 0)
-        .box("Text1", "fck(MPa)=", "20")
-        .box("Text2", "fyk(MPa)=", "500")
-        .box("Text9", "Es(GPa)=", "200");
-    s.frame("Frame2", "Coeficientes parciais", 1, 0)
-        .box("Text13", "Gamac=", "1.4")
-        .box("Text14", "Gamas=", "1.15")
-        .box("Text15", "Gamaf=", "1.4");
+    addMaterialFrames(s, "Text9");
     s.frame("Frame3", "Seção transversal", 0, 1, 2, 1)
         .box("Text3", "b(cm)=", "20")
         .box("Text4", "h(cm)=", "40")
@@ -53,13 +46,7 @@ ScreenDecl Form7::mainScreen() {
         .box("Text10", "d'(cm)=", "")
         .box("Text6", "Mk(kNm)=", "", "", KeyFilter::SignedNumber);
     s.frame("Frame4", "", 0, 2, 2, 1).picture("Picture1", 220, 260);
-    s.frame("Frame5", "Classe de agressividade ambiental", 2, 0)
-        .list("List6", "Classe de agressividade ambiental", aggressivenessItems());
-    s.frame("Frame6", "Ductilidade", 2, 1)
-        .list("List2", "xlim/d = ", ductilityItems(), ductilityItems().front())
-        .tip("Critério de ductilidade. Consulte a Ajuda.");
-    s.frame("Frame7", "Coeficiente de redistribuição", 2, 2)
-        .list("List3", "Beta=", redistributionItems(), redistributionItems().front());
+    addCriterionFrames(s);
     s.frame("Frame8", "RESPOSTA", 3, 0, 1, 2)
         .result("Text7", "Armadura tracionada: As(cm2) =")
         .result("Text8", "Armadura comprimida: A's(cm2) =");
@@ -112,16 +99,10 @@ Outcome Form7::calculate(FormState& s, Prompter& prompter) const {
     checkPartialCoefficients(checks, {{gamac, "Text13"}, {gamas, "Text14"}, {gamaf, "Text15"}});
     if (checks.stopped()) return checks.outcome();
 
-    const double beta = s.number("List3");
-    const auto criterion = ductilityCriterion(s.text("List2")).value_or(DuctilityCriterion::CEB90);
-    const double xlim = DuctilityLimit(criterion, beta, fck, fyk, gamas, es);
-    checkBalancedBeta(checks, criterion, beta, "List2");
+    const DesignBasis basis = designBasis(checks, s, fck, fyk, es, gamac, gamas, gamaf, mk);
     if (checks.stopped()) return checks.outcome();
-
-    const StressBlockValues block = StressBlock(fck);
-    const double md = gamaf * mk * 100;
-    const double fcd = fck / 10 / gamac, fyd = fyk / 10 / gamas;
-    const double sigmacd = block.alphac * fcd;
+    const double xlim = basis.xlim, md = basis.md, fyd = basis.fyd, sigmacd = basis.sigmacd;
+    const StressBlockValues& block = basis.block;
     const double mu = md / (b * d * d * sigmacd);
 
     ReducedSteel steel = designRectangle(mu, xlim, dPrime / d, block, es * 100, fyd);
