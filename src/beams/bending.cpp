@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "app/numbers.h"
 #include "basis/messages.h"
 
 namespace morve {
@@ -125,6 +126,30 @@ bool applyMinimumAndRate(CheckSequence& checks, double& as, double asPrime, doub
     if (as < asMin) as = asMin;
     checks.warnIf((as + asPrime) / ac > 0.04, msg::kSteelRateAbove4);
     return !checks.stopped();
+}
+
+Outcome finishDesign(CheckSequence& checks, FormState& s, const ReducedSteel& steel, double unit,
+                     double ac, double fck, double fyd, const DesignOutput& out) {
+    checks.warnIf(steel.stop != BendingStop::None, bendingStopMessage(steel.stop), out.stopFocus);
+    if (checks.stopped()) return checks.outcome();
+    double as = steel.omega * unit;
+    const double asPrime = steel.omegaPrime * unit;
+    if (!applyMinimumAndRate(checks, as, asPrime, ac, fck, fyd)) return checks.outcome();
+    s.setText(out.as, formatResult(as));
+    s.setText(out.asPrime, formatResult(asPrime));
+    return Outcome::done()
+        .then(EffectKind::EnableControl, out.detailButton)
+        .then(EffectKind::EnableControl, printButton(out.module));
+}
+
+Outcome openDetailing(FormState& s, const DesignOutput& out) {
+    s.setText(out.detailScreen + ".Text1", s.text(out.as));
+    s.setText(out.detailScreen + ".Text2", s.text(out.asPrime));
+    return Outcome::done()
+        .then(EffectKind::HideScreen, "FormAjuda")
+        .then(EffectKind::ShowScreen, "Form0b")
+        .then(EffectKind::HideScreen, out.module)
+        .then(EffectKind::ShowScreen, out.detailScreen);
 }
 
 }  // namespace morve

@@ -85,6 +85,22 @@ struct DesignBasis {
 DesignBasis designBasis(CheckSequence& checks, const FormState& state, double fck, double fyk,
                         double es, double gamac, double gamas, double gamaf, double mk);
 
+// The boxes where a design writes its areas and the screens of its detailing.
+struct DesignOutput {
+    std::string module;            // "Form7"
+    std::string as, asPrime;       // result boxes
+    std::string stopFocus;         // the height box, where the two limits send the focus
+    std::string detailButton;      // "Form7.Command3"
+    std::string detailScreen;      // "Form8"
+};
+// From the reduced steel to the result boxes: the stops of double reinforcement,
+// the areas over unit = width d sigmacd / fyd, the minimum on ac and the 4% rate.
+Outcome finishDesign(CheckSequence& checks, FormState& state, const ReducedSteel& steel, double unit,
+                     double ac, double fck, double fyd, const DesignOutput& out);
+// "Detalhamento": the two areas go over as they stand, and the detailing screen
+// takes the place of the design.
+Outcome openDetailing(FormState& state, const DesignOutput& out);
+
 // The minimum on the tension steel (over the concrete area ac) and the 4% limit
 // of the total rate. Returns false when the rate stops the run (message given).
 bool applyMinimumAndRate(CheckSequence& checks, double& as, double asPrime, double ac, double fck,

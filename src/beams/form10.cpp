@@ -26,6 +26,11 @@ const BendingReportLayout& reportLayout() {
     return layout;
 }
 
+const DesignOutput& output() {
+    static const DesignOutput out{"Form10", "Text11", "Text12", "Text7", "Form10.Command4", "Form10b"};
+    return out;
+}
+
 }  // namespace
 
 ModuleInfo Form10::info() const {
@@ -114,31 +119,10 @@ Outcome Form10::calculate(FormState& s, Prompter& prompter) const {
 
     const ReducedSteel steel =
         designTee(mu, xlim, hf / d, bw / bf, dPrime / d, block, es * 100, fyd).steel;
-    checks.warnIf(steel.stop != BendingStop::None, bendingStopMessage(steel.stop), "Text7");
-    if (checks.stopped()) return checks.outcome();
-
-    const double unit = bf * d * sigmacd / fyd;
-    double as = steel.omega * unit;
-    const double asPrime = steel.omegaPrime * unit;
-    const double ac = bf * hf + (h - hf) * bw;
-    if (!applyMinimumAndRate(checks, as, asPrime, ac, fck, fyd)) return checks.outcome();
-
-    s.setText("Text11", formatResult(as));
-    s.setText("Text12", formatResult(asPrime));
-    return Outcome::done()
-        .then(EffectKind::EnableControl, "Form10.Command4")
-        .then(EffectKind::EnableControl, printButton("Form10"));
+    return finishDesign(checks, s, steel, bf * d * sigmacd / fyd, bf * hf + (h - hf) * bw, fck, fyd, output());
 }
 
-Outcome Form10::detail(FormState& s) {
-    s.setText("Form10b.Text1", s.text("Form10.Text11"));
-    s.setText("Form10b.Text2", s.text("Form10.Text12"));
-    return Outcome::done()
-        .then(EffectKind::HideScreen, "FormAjuda")
-        .then(EffectKind::ShowScreen, "Form0b")
-        .then(EffectKind::HideScreen, "Form10")
-        .then(EffectKind::ShowScreen, "Form10b");
-}
+Outcome Form10::detail(FormState& s) { return openDetailing(s, output()); }
 
 void Form10::report(const std::string& key, const FormState& state, ReportWriter& out) const {
     if (key == "Form10") {

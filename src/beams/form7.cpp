@@ -26,6 +26,11 @@ const BendingReportLayout& reportLayout() {
     return layout;
 }
 
+const DesignOutput& output() {
+    static const DesignOutput out{"Form7", "Text7", "Text8", "Text4", "Form7.Command3", "Form8"};
+    return out;
+}
+
 }  // namespace
 
 ModuleInfo Form7::info() const {
@@ -106,30 +111,10 @@ Outcome Form7::calculate(FormState& s, Prompter& prompter) const {
     const double mu = md / (b * d * d * sigmacd);
 
     ReducedSteel steel = designRectangle(mu, xlim, dPrime / d, block, es * 100, fyd);
-    checks.warnIf(steel.stop != BendingStop::None, bendingStopMessage(steel.stop), "Text4");
-    if (checks.stopped()) return checks.outcome();
-
-    const double unit = b * d * sigmacd / fyd;
-    double as = steel.omega * unit;
-    const double asPrime = steel.omegaPrime * unit;
-    if (!applyMinimumAndRate(checks, as, asPrime, b * h, fck, fyd)) return checks.outcome();
-
-    s.setText("Text7", formatResult(as));
-    s.setText("Text8", formatResult(asPrime));
-    return Outcome::done()
-        .then(EffectKind::EnableControl, "Form7.Command3")
-        .then(EffectKind::EnableControl, printButton("Form7"));
+    return finishDesign(checks, s, steel, b * d * sigmacd / fyd, b * h, fck, fyd, output());
 }
 
-Outcome Form7::detail(FormState& s) {
-    s.setText("Form8.Text1", s.text("Form7.Text7"));
-    s.setText("Form8.Text2", s.text("Form7.Text8"));
-    return Outcome::done()
-        .then(EffectKind::HideScreen, "FormAjuda")
-        .then(EffectKind::ShowScreen, "Form0b")
-        .then(EffectKind::HideScreen, "Form7")
-        .then(EffectKind::ShowScreen, "Form8");
-}
+Outcome Form7::detail(FormState& s) { return openDetailing(s, output()); }
 
 void Form7::report(const std::string& key, const FormState& state, ReportWriter& out) const {
     if (key == "Form8b") {
