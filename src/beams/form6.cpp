@@ -135,18 +135,15 @@ Outcome Form6::calculate(FormState& s, Prompter& prompter) const {
     checks.warnIf(tk == 0, "O momento torçor tem que ser diferente de zero.", "Text12");
     if (checks.stopped()) return checks.outcome();
 
-    const double beta = s.number("List3");
-    const auto criterion = ductilityCriterion(s.text("List2")).value_or(DuctilityCriterion::CEB90);
-    const double xlim = DuctilityLimit(criterion, beta, fck, fyk, gamas, es);
-    checkBalancedBeta(checks, criterion, beta, "List2");
+    const DesignBasis basis = designBasis(checks, s, fck, fyk, es, gamac, gamas, gamaf, mk);
     if (checks.stopped()) return checks.outcome();
 
     // Bending in kN and cm, as the rectangular section.
-    const StressBlockValues block = StressBlock(fck);
+    const StressBlockValues& block = basis.block;
+    const double xlim = basis.xlim, fyd = basis.fyd, sigmacd = basis.sigmacd, md = basis.md;
     const double d = h - dPrime;
-    const double fcd = fck / 10 / gamac, fyd = fyk / 10 / gamas;
-    const double sigmacd = block.alphac * fcd;
-    const double md = gamaf * mk * 100, vd = gamaf * vk, td = gamaf * tk * 100;
+    const double fcd = fck / 10 / gamac;
+    const double vd = gamaf * vk, td = gamaf * tk * 100;
     double as = 0, asPrime = 0;
     if (md != 0) {
         const ReducedSteel steel =
