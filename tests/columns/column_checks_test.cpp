@@ -269,3 +269,25 @@ TEST(InteractionDiagram, HundredPointsUpToTheSquashLoad) {
         EXPECT_LE(own.y, std::max(above->y, (above - 1)->y) * 1.05);
     }
 }
+
+TEST(SectionDrawing, ShowsTheOutlineAndEveryBar) {
+    auto countBars = [](const morve::Drawing& g) {
+        return std::count_if(g.shapes.begin(), g.shapes.end(), [](const morve::Shape& s) {
+            auto c = std::get_if<morve::Circle>(&s.geometry);
+            return c && c->filled && c->radius == 0.8;
+        });
+    };
+    for (std::string key : {"Form12", "Form13e", "Form14c", "Form25"}) {
+        auto r = validCases().at(key).press("Command5");
+        ASSERT_TRUE(r.outcome.completed) << key;
+        EXPECT_TRUE(r.session->screenShown("Form12c"));
+        const morve::Drawing g = r.session->module().drawing("Form12c.Picture1", r.session->state());
+        EXPECT_EQ(countBars(g), key == "Form12" ? 6 : 8) << key;
+    }
+    // Nothing is drawn from a section that fails its checks.
+    ColumnCase bad = validCases().at("Form14");
+    bad.set["Text6"] = "7";
+    auto r = bad.press("Command5");
+    EXPECT_FALSE(r.outcome.completed);
+    EXPECT_TRUE(r.session->module().drawing("Form12c.Picture1", r.session->state()).empty());
+}
