@@ -9,9 +9,9 @@ std::string msg::positiveValue(const std::string& name) {
 }
 
 CheckSequence& CheckSequence::warnIf(bool failed, const std::string& message,
-                                     const std::string& focus) {
+                                     const std::string& focus, const std::string& title) {
     if (stopped_ || !failed) return *this;
-    prompter_.warn(message);
+    prompter_.warn(message, title);
     stopped_ = true;
     focus_ = focus;
     return *this;

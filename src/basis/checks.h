@@ -15,8 +15,10 @@ class CheckSequence {
 public:
     explicit CheckSequence(Prompter& prompter) : prompter_(prompter) {}
 
-    // A warning with OK; the run stops with the focus on `focus` ("" leaves it).
-    CheckSequence& warnIf(bool failed, const std::string& message, const std::string& focus = {});
+    // A warning with OK; the run stops with the focus on `focus` ("" leaves it). A few
+    // boxes carry a title other than the program's name.
+    CheckSequence& warnIf(bool failed, const std::string& message, const std::string& focus = {},
+                          const std::string& title = kBoxTitle);
     // A Yes/No question: Yes stops with the focus on `focus`, No goes on.
     CheckSequence& askIf(bool doubtful, const std::string& question, const std::string& focus);
     // An OK/Cancel box: OK stops with the focus on `focus`, Cancel goes on.

@@ -1,0 +1,58 @@
+#pragma once
+// A column module opened as from the menu, its boxes filled, a button pressed, and
+// what the user was told.
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "app/module.h"
+#include "app/numbers.h"
+#include "app/prompter.h"
+
+namespace morve::testing {
+
+struct ColumnCase {
+    std::string module;
+    std::map<std::string, std::string> set;
+    std::vector<int> layers;  // bars per layer, for the layered forms
+    std::vector<std::string> answers;
+
+    struct Run {
+        std::unique_ptr<ModuleSession> session;
+        Outcome outcome;
+        std::vector<Message> messages;
+        const std::string& text(const std::string& box) const { return session->state().text(box); }
+        double number(const std::string& box) const { return readNumber(text(box)); }
+    };
+
+    Run press(const std::string& command = "") const {
+        Run r;
+        const Module* m = ModuleRegistry::find(module);
+        EXPECT_NE(m, nullptr) << module;
+        r.session = std::make_unique<ModuleSession>(*m, StartDefaults{});
+        FormState& s = r.session->state();
+        for (const auto& [box, text] : set) s.setText(box, text);
+        if (!layers.empty()) {
+            std::string grid = layerGrid();
+            GridRows& rows = s.grid(grid);
+            rows.resize(1);
+            for (std::size_t i = 0; i < layers.size(); ++i)
+                rows.push_back({std::to_string(i + 1), std::to_string(layers[i])});
+        }
+        ScriptedPrompter prompter(answers);
+        r.outcome = r.session->press(command.empty() ? r.session->info().calculate : command, prompter);
+        r.messages = prompter.messages();
+        return r;
+    }
+
+    std::string layerGrid() const {
+        if (module == "Form12") return "Form12b.Grade1";
+        if (module == "Form12d") return "Form12e.Grade1";
+        if (module == "Form13") return "Form13b.Grade1";
+        return "Form13f.Grade1";
+    }
+};
+
+}  // namespace morve::testing

@@ -1,0 +1,293 @@
+// Every check of the column modules stops with its words and its focus, in order;
+// the layer table; the reports of every key; the interaction diagram.
+#include <algorithm>
+
+#include "column_case.h"
+#include "reports/report_dispatch.h"
+
+using morve::testing::ColumnCase;
+
+namespace {
+
+const std::map<std::string, ColumnCase>& validCases() {
+    static const std::map<std::string, ColumnCase> cases{
+        {"Form12", {"Form12", {{"Text6", "4"}, {"Text7", "2"}, {"Text8", "500"}, {"Text9", "50"}}, {3, 3}, {}}},
+        {"Form12d",
+         {"Form12d", {{"Text13", "4"}, {"Text7", "2"}, {"Text8", "2000"}, {"Text9", "200"}}, {4, 4}, {}}},
+        {"Form13", {"Form13", {{"Text6", "4"}, {"Text7", "2"}, {"Text8", "500"}, {"Form13b.Text1", "8"}}, {3, 3}, {}}},
+        {"Form13e",
+         {"Form13e", {{"Text6", "4"}, {"Text7", "2"}, {"Text10", "2000"}, {"Form13f.Text1", "20"}}, {4, 4}, {}}},
+        {"Form14", {"Form14", {{"Text5", "4"}, {"Text6", "8"}, {"Text7", "2000"}, {"Text8", "200"}}, {}, {}}},
+        {"Form14c", {"Form14c", {{"Text5", "4"}, {"Text6", "8"}, {"Text7", "2000"}, {"Text8", "200"}}, {}, {}}},
+        {"Form15", {"Form15", {{"Text5", "4"}, {"Text6", "8"}, {"Text7", "2000"}, {"Text9", "20"}}, {}, {}}},
+        {"Form25", {"Form25", {{"Text5", "4"}, {"Text6", "8"}, {"Text8", "2000"}, {"Text7", "20"}}, {}, {}}},
+    };
+    return cases;
+}
+
+struct Stop {
+    std::string module;
+    std::map<std::string, std::string> set;
+    std::string message;
+    std::string focus;  // unqualified on the main screen, "" when the focus stays
+    std::vector<std::string> answers = {};
+    std::vector<int> layers = {};
+    std::string command = "";
+};
+
+const std::string kCoefficient = "O coeficiente parcial de segurança não pode ser menor que 1.";
+const std::string kSlender =
+    "Como a menor dimensão da seção (bmin) é inferior a 19cm, a NBR-6118 exige que o coeficiente Gamaf seja "
+    "multiplicado por 1,95-bmin/20.      VOCÊ QUER CORRIGIR ";
+
+const std::vector<Stop>& stops() {
+    static const std::vector<Stop> rows{
+        // Form12, in the order of its checks.
+        {"Form12", {{"Text1", "19.9"}}, "A menor resistência admitida na NBR-6118 é igual a 20 MPa. Aumente o valor de fck.", ""},
+        {"Form12", {{"Text1", "90.1"}}, "A maior resistência admitida na NBR-6118 é igual a 90 MPa. Os modelos de cálculo não se aplicam ao concreto considerado.", "Text1"},
+        {"Form12", {{"Text2", "0"}}, "Forneça um valor positivo para fyk.", "Text2"},
+        {"Form12", {{"Text3", "0"}}, "Forneça um valor positivo para o módulo de elasticidade do aço.", "Text3"},
+        {"Form12", {{"Text2", "450"}}, "O valor de fyk não corresponde aos aços CA-50 ou CA-60. VOCÊ QUER ALTERAR O VALOR DE fyk?", "Text2", {"yes"}},
+        {"Form12", {{"Text3", "205"}}, "O valor de Es não é indicado pela NBR-6118 ou pelo CEB. VOCÊ QUER ALTERAR O VALOR DE Es?", "Text3", {"yes"}},
+        {"Form12", {{"Text4", ""}}, "Forneça um valor positivo para b.", "Text4"},
+        {"Form12", {{"Text5", "0"}}, "Forneça um valor positivo para h.", "Text5"},
+        {"Form12", {{"Text6", ""}}, "Forneça um valor positivo para d'.", "Text6"},
+        {"Form12", {{"Text6", "40"}}, "O parâmetro d' deve ser menor que a altura h.", "Text6"},
+        {"Form12", {{"Text7", "1"}}, "O número mínimo de camadas é igual a 2.", "Text7"},
+        {"Form12", {{"Text7", "301"}}, "Este programa está limitado a 300 camadas de armadura.", "Text7"},
+        {"Form12", {{"Text7", "3"}}, "Atualize os dados das camadas.", "Command3"},
+        {"Form12", {}, "O número mínimo de barras em cada camada é igual a 2. Revise os dados.", "Command3", {}, {3, 1}},
+        {"Form12", {{"Text8", "-1"}}, "O esforço normal Nk não pode ser negativo.", "Text8"},
+        {"Form12", {{"Text9", "-1"}}, "O momento fletor Mk não pode ser negativo.", "Text9"},
+        {"Form12", {{"Text16", "0.9"}}, kCoefficient, "Text16"},
+        {"Form12", {{"Text14", "0.9"}}, kCoefficient, "Text14"},
+        {"Form12", {{"Text15", "0.9"}}, kCoefficient, "Text15"},
+        {"Form12", {{"Text4", "13"}}, "A NBR-6118 não admite pilares com dimensão menor que 14cm. VOCÊ QUER CORRIGIR A DIMENSÃO?", "Text4", {"yes"}},
+        {"Form12", {{"Text4", "18"}}, kSlender + "Gamaf?", "Text15", {"yes"}},
+        {"Form12", {{"Text4", "14"}, {"Text5", "14"}, {"Text8", "1500"}}, "A taxa de armadura é superior a 8%. Aumente as dimensões da seção de concreto.", "", {"no", "no"}},
+        // The box: its own limits in place of d' against h.
+        {"Form12d", {{"Text12", "0"}}, "Forneça um valor positivo para bw.", "Text12"},
+        {"Form12d", {{"Text12", "31"}}, "A largura da nervura, bw, não pode ser maior que b/2.", "Text12"},
+        {"Form12d", {{"Text6", ""}}, "Forneça um valor positivo para hf.", "Text6"},
+        {"Form12d", {{"Text6", "31"}}, "A espessura da mesa,hf, não pode ser maior que h/2.", "Text6"},
+        {"Form12d", {{"Text13", "0"}}, "Forneça um valor positivo para d'.", "Text13"},
+        {"Form12d", {{"Text13", "10.5"}, {"Text6", "20"}}, "O parâmetro d' não deve ser maior que hf/2.", "Text13"},
+        {"Form12d", {{"Text13", "8"}, {"Text12", "15"}}, "O parâmetro d' não deve ser maior que bw/2.", "Text13"},
+        // Verification of the rectangle.
+        {"Form13", {{"Text8", "-5"}}, "O esforço normal Nd não pode ser negativo.", "Text8"},
+        {"Form13", {{"Form13b.Text1", "-1"}}, "Forneça um valor positivo (ou nulo) para a área de aço.", "Command3"},
+        {"Form13", {{"Text13", "0.5"}}, kCoefficient, "Text13"},
+        {"Form13", {{"Text4", "18"}}, kSlender + "O ESFORÇO NORMAL DE CÁLCULO?", "Text8", {"yes"}},
+        {"Form13e", {{"Text8", "0.5"}}, kCoefficient, "Text8"},
+        {"Form13e", {{"Text10", "-1"}}, "O esforço normal Nd não pode ser negativo.", "Text10"},
+        // The diagram's shorter list, which refuses a section without steel.
+        {"Form13", {{"Text1", "0"}}, "Forneça um valor positivo para fck.", "Text1", {}, {}, "Command6"},
+        {"Form13", {{"Text7", "0"}}, "Forneça um valor positivo para n.", "Text7", {}, {}, "Command6"},
+        {"Form13", {{"Form13b.Text1", "0"}}, "Forneça um valor positivo para a área de aço.", "Command3", {}, {}, "Command6"},
+        {"Form15", {{"Text9", "0"}}, "Forneça um valor positivo (ou nulo) para a área de aço.", "Text9", {}, {}, "Command6"},
+        {"Form15", {{"Text7", "90000"}}, "A seção não suporta o esforço normal dado.", "", {}, {}, "Command6"},
+        // Circles: d' against the diameter only after the number of bars.
+        {"Form14", {{"Text4", ""}}, "Forneça um valor positivo para o diâmetro h.", "Text4"},
+        {"Form14", {{"Text5", "0"}, {"Text6", "5"}}, "Forneça um valor positivo para d'.", "Text5"},
+        {"Form14", {{"Text5", "70"}, {"Text6", "4"}}, "O número mínimo de barras é igual a 6.", "Text6"},
+        {"Form14", {{"Text5", "70"}, {"Text6", "7"}}, "O número de barras dever ser par.", "Text6"},
+        {"Form14", {{"Text5", "70"}, {"Text6", "302"}}, "Este programa está limitado a 300 barras de armadura.", "Text6"},
+        {"Form14", {{"Text5", "70"}}, "O parâmetro d' deve ser menor que o diâmetro h.", "Text5"},
+        {"Form14", {{"Text7", "-1"}}, "O esforço normal Nk não pode ser negativo.", "Text7"},
+        {"Form14", {{"Text4", "13"}}, "A NBR-6118 não admite pilares com dimensão menor que 14cm. VOCÊ QUER CORRIGIR A DIMENSÃO?", "Text4", {"yes"}},
+        {"Form14c", {{"Text4", "0"}}, "Forneça um valor positivo para o diâmetro externo h.", "Text4"},
+        {"Form14c", {{"Text11", "-1"}}, "O diâmetro interno ho não pode ser negativo.", "Text11"},
+        {"Form14c", {{"Text11", "60"}, {"Text6", "5"}}, "O diâmetro interno ho deve ser menor que o diâmetro externo h.", "Text11"},
+        {"Form14c", {{"Text5", "10.5"}, {"Text6", "5"}}, "O parâmetro d' não pode ser maior que a semi-espessura da parede: (h-ho)/4.", "Text5"},
+        {"Form15", {{"Text7", "-1"}}, "O esforço normal Nd não pode ser negativo.", "Text7"},
+        {"Form15", {{"Text10", "0.99"}}, kCoefficient, "Text10"},
+        {"Form25", {{"Text7", "-1"}}, "Forneça um valor positivo (ou nulo) para a área de aço.", "Text7"},
+        {"Form25", {{"Text8", "90000"}}, "A seção não suporta o esforço normal dado.", ""},
+    };
+    return rows;
+}
+
+}  // namespace
+
+TEST(ColumnChecks, EachCheckStopsWithItsWordsAndFocus) {
+    for (const Stop& row : stops()) {
+        ColumnCase c = validCases().at(row.module);
+        for (const auto& [box, text] : row.set) c.set[box] = text;
+        if (!row.layers.empty()) c.layers = row.layers;
+        c.answers = row.answers;
+        auto r = c.press(row.command);
+        SCOPED_TRACE(row.module + " " + row.message);
+        EXPECT_FALSE(r.outcome.completed);
+        ASSERT_FALSE(r.messages.empty());
+        EXPECT_EQ(r.messages.back().text, row.message);
+        EXPECT_EQ(r.messages.back().title, "MORVE");
+        EXPECT_EQ(r.outcome.focus, row.focus.empty() ? "" : r.session->state().qualify(row.focus));
+    }
+}
+
+TEST(ColumnChecks, ValidCasesRunToTheEndAndEnableWhatTheyMust) {
+    for (const auto& [key, c] : validCases()) {
+        auto r = c.press();
+        EXPECT_TRUE(r.outcome.completed) << key;
+        EXPECT_TRUE(r.messages.empty()) << key << ": " << (r.messages.empty() ? "" : r.messages[0].text);
+        const bool design = key == "Form12" || key == "Form12d" || key == "Form14" || key == "Form14c";
+        // Design enables the report; verification only the diagram, which enables it.
+        EXPECT_EQ(r.session->state().enabled(morve::printButton(key)), design) << key;
+        if (!design) EXPECT_TRUE(r.session->state().enabled(key + ".Command6")) << key;
+    }
+}
+
+TEST(ColumnChecks, OddNumberOfBarsInTheHollowVerificationHasItsOwnTitle) {
+    ColumnCase c = validCases().at("Form25");
+    c.set["Text6"] = "9";
+    auto r = c.press();
+    ASSERT_EQ(r.messages.size(), 1u);
+    EXPECT_EQ(r.messages[0].title, "Flexo-compressão normal");
+    EXPECT_EQ(r.messages[0].text, "O número de barras dever ser par.");
+    c.module = "Form15";
+    c.set = validCases().at("Form15").set;
+    c.set["Text6"] = "9";
+    EXPECT_EQ(c.press().messages.at(0).title, "MORVE");
+}
+
+TEST(ColumnChecks, SmallAreaAndHighRateWarnAndGoOn) {
+    ColumnCase c = validCases().at("Form12");
+    c.set = {{"Text4", "15"}, {"Text5", "20"}, {"Text6", "3"}, {"Text7", "4"}, {"Text8", "700"}, {"Text9", "0"}};
+    c.layers = {2, 2, 2, 2};
+    auto r = c.press();
+    ASSERT_EQ(r.messages.size(), 3u);
+    EXPECT_EQ(r.messages[0].kind, morve::MessageKind::YesNo);  // 15 cm, answered No
+    EXPECT_EQ(r.messages[1].text,
+              "ATENÇÃO: A área da seção do pilar é menor que 360cm2, o que não é permitido pela NBR-6118.");
+    EXPECT_EQ(r.messages[2].text,
+              "A taxa de armadura é superior a 4%. Verifique se a taxa de armadura não será superior a 8%, na "
+              "região das emendas por traspasse.");
+    EXPECT_TRUE(r.outcome.completed);
+}
+
+TEST(LayerTable, OpensWithNRowsKeepsTypedBarsAndTrimsOnOk) {
+    const morve::Module* m = morve::ModuleRegistry::find("Form13");
+    morve::ModuleSession session(*m, morve::StartDefaults{});
+    morve::ScriptedPrompter prompter;
+    session.state().setText("Text7", "1");
+    auto o = session.press("Command3", prompter);
+    EXPECT_FALSE(o.completed);
+    EXPECT_EQ(o.focus, "Form13.Text7");
+    session.state().setText("Text7", "2");
+    ASSERT_TRUE(session.press("Command3", prompter).completed);
+    EXPECT_TRUE(session.screenShown("Form13b"));
+    EXPECT_FALSE(session.screenShown("Form13"));
+    auto& rows = session.state().grid("Form13b.Grade1");
+    ASSERT_EQ(rows.size(), 3u);
+    rows[1][1] = "12345";
+    session.state().setText("Text7", "3");
+    session.press("Command3", prompter);
+    ASSERT_EQ(session.state().grid("Form13b.Grade1").size(), 4u);
+    EXPECT_EQ(session.state().grid("Form13b.Grade1")[3][0], "3");
+    EXPECT_EQ(session.state().grid("Form13b.Grade1")[1][1], "12345");
+    session.press("Form13b.Command2", prompter);
+    EXPECT_EQ(session.state().grid("Form13b.Grade1")[1][1], "123");
+    EXPECT_TRUE(session.screenShown("Form13"));
+}
+
+TEST(ColumnReports, EveryKeyPrintsItsBoxes) {
+    struct Expect {
+        std::string key;
+        std::vector<std::string> lines;
+    };
+    const std::vector<Expect> expects{
+        {"Form12", {"Gamac= 1.4     Gamas= 1.15     Gamaf= 1.4", "Largura b= 20 cm     Altura h= 40 cm     d'= 4 cm",
+                    "Número de camadas de armadura= 2", "Camada= 1                    Número de barras= 3",
+                    "Esforço normal Nk= 500 kN     Momento fletor Mk= 50 kNm", "Área de aço calculada: As= ",
+                    "SOLUÇÃO:     "}},
+        {"Form12d", {"Largura das nervuras bw= 20 cm     Espessura das mesas hf= 20 cm"}},
+        {"Form13", {"Gamac= 1.4     Gamas= 1.15", "Área total de aço: As= 8 cm2", "Esforço normal de cálculo: Nd= 500 kN",
+                    "RESULTADO:", "Momento fletor de ruína de cálculo: Md= "}},
+        {"Form13e", {"Largura das nervuras bw= 20 cm     Espessura das mesas hf= 20 cm", "Área total de aço: As= 20 cm2"}},
+        {"Form14", {"Diâmetro h= 60 cm     d'= 4 cm", "Número de barras de aço= 8", "RESULTADOS:"}},
+        {"Form14c", {"Diâmetro externo h= 60 cm     Diâmetro interno ho= 20 cm     d'= 4 cm"}},
+        {"Form15", {"Diâmetro h= 60 cm     d'= 4 cm", "Área total de aço: As= 20 cm2"}},
+        {"Form25", {"Diâmetro externo h= 60 cm     Diâmetro interno ho= 20 cm     d'= 4 cm",
+                    "Esforço normal de cálculo: Nd= 2000 kN"}},
+    };
+    for (const auto& e : expects) {
+        auto r = validCases().at(e.key).press();
+        morve::ReportWriter out;
+        ASSERT_TRUE(morve::generateReport(e.key, r.session->module(), r.session->state(), out)) << e.key;
+        std::vector<std::string> lines;
+        for (const auto& block : out.document().blocks)
+            if (auto line = std::get_if<morve::ReportLine>(&block)) lines.push_back(line->text());
+        EXPECT_EQ(lines.front(), "Propriedades dos materiais:");
+        for (const auto& want : e.lines)
+            EXPECT_TRUE(std::any_of(lines.begin(), lines.end(), [&](const std::string& l) { return l.rfind(want, 0) == 0; }))
+                << e.key << ": " << want;
+        if (e.key == "Form14" || e.key == "Form15")
+            EXPECT_TRUE(std::none_of(lines.begin(), lines.end(), [](const std::string& l) { return l.rfind("Camada", 0) == 0; }));
+    }
+}
+
+TEST(InteractionDiagram, HundredPointsUpToTheSquashLoad) {
+    for (std::string key : {"Form13", "Form15"}) {
+        ColumnCase c = validCases().at(key);
+        auto r = c.press();
+        ASSERT_TRUE(r.outcome.completed);
+        morve::ScriptedPrompter prompter;
+        auto o = r.session->press("Command6", prompter);
+        ASSERT_TRUE(o.completed) << key;
+        EXPECT_TRUE(r.session->state().enabled(morve::printButton(key)));
+        EXPECT_TRUE(r.session->screenShown("Form13c"));
+        const morve::Chart chart = r.session->module().chart("Form13c.MSChart1", r.session->state());
+        ASSERT_EQ(chart.series.size(), 2u);
+        EXPECT_EQ(chart.title, "Diagrama de interação na flexo-compressão normal");
+        EXPECT_EQ(chart.xTitle, "Esforço normal de cálculo (kN)");
+        EXPECT_EQ(chart.yTitle, "Momento fletor de cálculo (kNm)");
+        const auto& p = chart.series[0].points;
+        ASSERT_EQ(p.size(), 100u);
+        // Squash load with the diagram's own stress: 0.85 fcd (0.8 for circles) and
+        // the steel at 2 per mille (40 kN/cm2 with Es 200).
+        const double fcd = 2 / 1.4, area = key == "Form13" ? 800 : 3.141592654 * 900;
+        const double squash = key == "Form13" ? 0.85 * fcd * area + 8 * 40 : 0.8 * fcd * area + 20 * 40;
+        // The search stops within 0.001 of nu: near the peak Md may wobble by that
+        // much force times the depth, and no more.
+        const double wobble = 0.001 * squash * (key == "Form13" ? 40 : 60) / 100;
+        EXPECT_NEAR(p.back().x, squash, 1e-6 * squash);
+        EXPECT_EQ(p.back().y, 0);
+        EXPECT_EQ(p.front().x, 0);
+        // Nd rises by equal steps; Md rises to one peak and falls.
+        auto peak = std::max_element(p.begin(), p.end(), [](auto& a, auto& b) { return a.y < b.y; });
+        for (std::size_t i = 1; i < p.size(); ++i) {
+            EXPECT_GT(p[i].x, p[i - 1].x);
+            if (p.begin() + i <= peak) EXPECT_GE(p[i].y, p[i - 1].y - wobble) << key << " " << i;
+            else EXPECT_LE(p[i].y, p[i - 1].y + wobble) << key << " " << i;
+        }
+        const double span = p.back().x;
+        EXPECT_NEAR(chart.xMin, -0.05 * span, 1e-9 * span);
+        EXPECT_NEAR(chart.xMax, 1.05 * span, 1e-9 * span);
+        // The case's own point lies inside the curve at its Nd.
+        const auto& own = chart.series[1].points.at(0);
+        auto above = std::lower_bound(p.begin(), p.end(), own.x, [](auto& a, double x) { return a.x < x; });
+        EXPECT_LE(own.y, std::max(above->y, (above - 1)->y) * 1.05);
+    }
+}
+
+TEST(SectionDrawing, ShowsTheOutlineAndEveryBar) {
+    auto countBars = [](const morve::Drawing& g) {
+        return std::count_if(g.shapes.begin(), g.shapes.end(), [](const morve::Shape& s) {
+            auto c = std::get_if<morve::Circle>(&s.geometry);
+            return c && c->filled && c->radius == 0.8;
+        });
+    };
+    for (std::string key : {"Form12", "Form13e", "Form14c", "Form25"}) {
+        auto r = validCases().at(key).press("Command5");
+        ASSERT_TRUE(r.outcome.completed) << key;
+        EXPECT_TRUE(r.session->screenShown("Form12c"));
+        const morve::Drawing g = r.session->module().drawing("Form12c.Picture1", r.session->state());
+        EXPECT_EQ(countBars(g), key == "Form12" ? 6 : 8) << key;
+    }
+    // Nothing is drawn from a section that fails its checks.
+    ColumnCase bad = validCases().at("Form14");
+    bad.set["Text6"] = "7";
+    auto r = bad.press("Command5");
+    EXPECT_FALSE(r.outcome.completed);
+    EXPECT_TRUE(r.session->module().drawing("Form12c.Picture1", r.session->state()).empty());
+}

@@ -1,0 +1,152 @@
+// Solid and hollow rectangular sections: design (Form12, Form12d) against
+// verification (Form13, Form13e), hand-worked values and the limits of the model.
+#include <cmath>
+
+#include "column_case.h"
+
+using morve::testing::ColumnCase;
+
+namespace {
+
+ColumnCase form12(std::string nk, std::string mk) {
+    return {"Form12",
+            {{"Text1", "25"}, {"Text3", "210"}, {"Text4", "20"}, {"Text5", "50"}, {"Text6", "4"},
+             {"Text7", "3"}, {"Text8", nk}, {"Text9", mk}},
+            {3, 2, 3}, {}};
+}
+
+ColumnCase form13(std::string nd, std::string as) {
+    return {"Form13",
+            {{"Text1", "25"}, {"Text3", "210"}, {"Text4", "20"}, {"Text5", "50"}, {"Text6", "4"},
+             {"Text7", "3"}, {"Text8", nd}, {"Form13b.Text1", as}},
+            {3, 2, 3}, {}};
+}
+
+}  // namespace
+
+TEST(RectangularColumn, DesignedSectionGivesBackItsMoment) {
+    // Small eccentricity, large eccentricity and nearly pure bending.
+    for (auto [nk, mk] : {std::pair{"1000", "60"}, {"700", "150"}, {"60", "90"}}) {
+        auto design = form12(nk, mk).press();
+        ASSERT_TRUE(design.outcome.completed) << nk;
+        ASSERT_GT(design.number("Text10"), design.number("Text11")) << "the minimum must not govern";
+        auto check = form13(morve::formatResult(1.4 * std::stod(nk)), design.text("Text10")).press();
+        ASSERT_TRUE(check.outcome.completed);
+        EXPECT_NEAR(check.number("Text10"), 1.4 * std::stod(mk), 0.005 * 1.4 * std::stod(mk)) << nk << " " << mk;
+    }
+}
+
+TEST(RectangularColumn, CentredLoadIsDesignedWithoutSearch) {
+    // Nd = 1400 kN on 20 x 40, fck 20: the concrete takes 0.85 x 20/14 x 800 =
+    // 971.43 kN, the steel at 2 per mille (42 kN/cm2) the rest: 428.57 / 42.
+    ColumnCase c{"Form12",
+                 {{"Text3", "210"}, {"Text6", "4"}, {"Text7", "2"}, {"Text8", "1000"}, {"Text9", "0"}},
+                 {3, 3}, {}};
+    auto r = c.press();
+    ASSERT_TRUE(r.outcome.completed);
+    EXPECT_EQ(r.text("Text10"), "10.2");
+    EXPECT_EQ(r.text("Text11"), "4.83");  // 0.15 x 1400 / 43.48
+    EXPECT_EQ(r.text("Text12"), "6");
+    EXPECT_EQ(r.text("Text13"), "16");    // 14.7 mm needed
+    EXPECT_EQ(r.text("Text17"), "12.06");
+    // No force at all: no steel, the 0.4% minimum and the smallest bar.
+    c.set["Text8"] = "0";
+    r = c.press();
+    EXPECT_EQ(r.text("Text10"), "0");
+    EXPECT_EQ(r.text("Text11"), "3.2");
+    EXPECT_EQ(r.text("Text13"), "10");
+    EXPECT_EQ(r.text("Text17"), "4.71");
+}
+
+TEST(RectangularColumn, PureBendingMatchesTheHandSolution) {
+    // 20 x 50, d' 5, 5 cm2 at each face, fck 20, CA-50, Nd = 0. Domain 2: the
+    // tension steel at 10 per mille and yielded, the compression steel elastic:
+    // 0.8 x 20 sigma_cd x + 5 Es 0.01 (x - 5)/(45 - x) = 5 fyd.
+    const double sc = 0.85 * 2.0 / 1.4, fyd = 50 / 1.15;
+    auto force = [&](double x) { return 16 * sc * x + 5 * 21000 * 0.01 * (x - 5) / (45 - x) - 5 * fyd; };
+    double lo = 5, hi = 20;
+    for (int i = 0; i < 200; ++i) ((force(0.5 * (lo + hi)) < 0) ? lo : hi) = 0.5 * (lo + hi);
+    const double x = lo, stress = 21000 * 0.01 * (x - 5) / (45 - x);
+    ASSERT_LT(x / 50, 3.5 * 0.9 / 13.5);  // domain 2 indeed
+    ASSERT_LT(stress, fyd);
+    const double m = (16 * sc * x * (25 - 0.4 * x) + 5 * stress * 20 + 5 * fyd * 20) / 100;
+
+    ColumnCase c{"Form13",
+                 {{"Text3", "210"}, {"Text4", "20"}, {"Text5", "50"}, {"Text6", "5"}, {"Text7", "2"},
+                  {"Text8", "0"}, {"Form13b.Text1", "10"}},
+                 {2, 2}, {}};
+    auto r = c.press();
+    ASSERT_TRUE(r.outcome.completed);
+    EXPECT_NEAR(r.number("Text10"), m, 0.005 * m);
+}
+
+TEST(RectangularColumn, SquashLoadAndPlainConcrete) {
+    // fck 20 and Gamac 1: the squash load of 20 x 40 without steel is 0.85 x 2 x 800.
+    ColumnCase c{"Form13",
+                 {{"Text3", "210"}, {"Text6", "4"}, {"Text7", "2"}, {"Text13", "1"}, {"Text8", "1360"},
+                  {"Form13b.Text1", "0"}},
+                 {2, 2}, {}};
+    auto r = c.press();
+    ASSERT_TRUE(r.outcome.completed);
+    EXPECT_EQ(r.text("Text10"), "0");
+    c.set["Text8"] = "1361";
+    r = c.press();
+    EXPECT_FALSE(r.outcome.completed);
+    ASSERT_EQ(r.messages.size(), 1u);
+    EXPECT_EQ(r.messages[0].text, "A seção não suporta o esforço normal dado.");
+    EXPECT_EQ(r.text("Text10"), " ");
+    // Half the squash load: the block covers half the depth, its resultant h/4 above
+    // the centre: 680 kN x 10 cm.
+    c.set["Text8"] = "680";
+    r = c.press();
+    EXPECT_NEAR(r.number("Text10"), 68, 0.1);
+}
+
+TEST(BoxColumn, BoxWithoutHoleIsTheSolidRectangle) {
+    // bw = b/2 and hf = h/2 leave no hole.
+    ColumnCase box{"Form12d",
+                   {{"Text4", "20"}, {"Text5", "50"}, {"Text12", "10"}, {"Text6", "25"}, {"Text13", "4"},
+                    {"Text7", "3"}, {"Text8", "700"}, {"Text9", "150"}},
+                   {3, 2, 3}, {}};
+    auto hollow = box.press();
+    auto solid = ColumnCase{"Form12",
+                            {{"Text4", "20"}, {"Text5", "50"}, {"Text6", "4"}, {"Text7", "3"}, {"Text8", "700"},
+                             {"Text9", "150"}},
+                            {3, 2, 3}, {}}
+                     .press();
+    ASSERT_TRUE(hollow.outcome.completed);
+    EXPECT_EQ(hollow.text("Text10"), solid.text("Text10"));
+    EXPECT_EQ(hollow.text("Text11"), solid.text("Text11"));
+    EXPECT_EQ(hollow.text("Text18"), solid.text("Text13"));
+
+    ColumnCase boxCheck{"Form13e",
+                        {{"Text4", "20"}, {"Text5", "50"}, {"Text12", "10"}, {"Text13", "25"}, {"Text6", "4"},
+                         {"Text7", "3"}, {"Text10", "980"}, {"Form13f.Text1", "12"}},
+                        {3, 2, 3}, {}};
+    auto solidCheck = ColumnCase{"Form13",
+                                 {{"Text4", "20"}, {"Text5", "50"}, {"Text6", "4"}, {"Text7", "3"},
+                                  {"Text8", "980"}, {"Form13b.Text1", "12"}},
+                                 {3, 2, 3}, {}}
+                          .press();
+    EXPECT_EQ(boxCheck.press().text("Text11"), solidCheck.text("Text10"));
+}
+
+TEST(BoxColumn, DesignedBoxGivesBackItsMoment) {
+    for (auto [nk, mk] : {std::pair{"3000", "1000"}, {"1200", "1500"}}) {
+        ColumnCase design{"Form12d",
+                          {{"Text4", "80"}, {"Text5", "100"}, {"Text12", "15"}, {"Text6", "12"}, {"Text13", "5"},
+                           {"Text7", "4"}, {"Text8", nk}, {"Text9", mk}},
+                          {8, 2, 2, 8}, {}};
+        auto d = design.press();
+        ASSERT_TRUE(d.outcome.completed) << nk;
+        ASSERT_GT(d.number("Text10"), d.number("Text11"));
+        ColumnCase check{"Form13e",
+                         {{"Text4", "80"}, {"Text5", "100"}, {"Text12", "15"}, {"Text13", "12"}, {"Text6", "5"},
+                          {"Text7", "4"}, {"Text10", morve::formatResult(1.4 * std::stod(nk))},
+                          {"Form13f.Text1", d.text("Text10")}},
+                         {8, 2, 2, 8}, {}};
+        auto v = check.press();
+        ASSERT_TRUE(v.outcome.completed);
+        EXPECT_NEAR(v.number("Text11"), 1.4 * std::stod(mk), 0.005 * 1.4 * std::stod(mk)) << nk;
+    }
+}
