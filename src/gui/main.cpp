@@ -1,11 +1,13 @@
 // MORVE: design of reinforced-concrete elements, step by step.
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QIcon>
 #include <QTimer>
 
 #include <cstdio>
 #include <cstring>
 
+#include "gui/data_paths.h"
 #include "gui/main_window.h"
 #include "gui/morve_app.h"
 #include "gui/screenshots.h"
@@ -37,6 +39,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion(QStringLiteral(MORVE_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("morve"));
     QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("morve"), QIcon(morve::helpFolder() + "/../morve.svg")));
     if (!screenshots.isEmpty()) return morve::takeScreenshots(screenshots);
 
     if (startupTime) options.splash = false;

@@ -142,6 +142,11 @@ void ModuleHost::applyScreenEffects(const Outcome& outcome, ScreenWindow* caller
             default: break;  // controls: already in the state, shown by refresh
         }
     }
+    // A screen this program does not know cannot be shown; the module's own
+    // window comes back rather than leaving the user before an empty backdrop.
+    bool anyShown = false;
+    for (const auto& [name, w] : windows_) anyShown = anyShown || w->isVisible();
+    if (!anyShown && !windows_.empty()) showScreen(session_.info().key);
 }
 
 void ModuleHost::companionClosed(const std::string& screen) {

@@ -143,6 +143,17 @@ private slots:
         QVERIFY(printEnabled());
         QVERIFY(form7()->control("Command3")->isEnabled());
 
+        // "Detalhamento" goes on to the detailing screen when the module declares
+        // it; a window of the module stays in front in any case.
+        QTest::mouseClick(qobject_cast<QPushButton*>(form7()->control("Command3")), Qt::LeftButton);
+        settle();
+        ScreenWindow* detailing = app->module()->window("Form8");
+        QVERIFY((detailing && detailing->isVisible()) || form7()->isVisible());
+        QVERIFY(!app->moduleHelp()->isVisible());
+        if (detailing) detailing->close();
+        settle();
+        QVERIFY(form7()->isVisible());
+
         // A later failure blanks the results but leaves "Imprimir" enabled.
         type("Text6", "0");
         calculate();
