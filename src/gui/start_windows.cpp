@@ -25,15 +25,22 @@ QLabel* bigLabel(const QString& text, double scale, bool bold, QWidget* parent) 
     return label;
 }
 
+// The frameless notices of the start and of the end share their look.
+QVBoxLayout* noticeLayout(QWidget* window, const char* name, double titleScale) {
+    window->setObjectName(QString::fromUtf8(name));
+    window->setWindowTitle(QStringLiteral(" MORVE"));
+    window->setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
+    window->setStyleSheet(QStringLiteral("background: #1f3b63; color: white;"));
+    auto* layout = new QVBoxLayout(window);
+    layout->setContentsMargins(40, 28, 40, 28);
+    layout->addWidget(bigLabel(QStringLiteral("MORVE"), titleScale, true, window));
+    return layout;
+}
+
 }  // namespace
 
 SplashWindow::SplashWindow() {
-    setObjectName(QStringLiteral("Form0entra"));
-    setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
-    setStyleSheet(QStringLiteral("background: #1f3b63; color: white;"));
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(40, 30, 40, 30);
-    layout->addWidget(bigLabel(QStringLiteral("MORVE"), 3.0, true, this));
+    QVBoxLayout* layout = noticeLayout(this, "Form0entra", 3.0);
     layout->addWidget(bigLabel(QStringLiteral("Versão 3.0"), 1.2, false, this));
     layout->addSpacing(20);
     layout->addWidget(bigLabel(QStringLiteral("Carregando...Aguarde!"), 1.1, false, this));
@@ -123,13 +130,7 @@ void StartDialog::closeEvent(QCloseEvent* event) {
 }
 
 ExitWindow::ExitWindow() {
-    setObjectName(QStringLiteral("FormSAIDA"));
-    setWindowTitle(QStringLiteral(" MORVE"));
-    setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
-    setStyleSheet(QStringLiteral("background: #1f3b63; color: white;"));
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(40, 24, 40, 24);
-    layout->addWidget(bigLabel(QStringLiteral("MORVE"), 2.0, true, this));
+    noticeLayout(this, "FormSAIDA", 2.0);
     adjustSize();
     centreOnScreen(this);
 }

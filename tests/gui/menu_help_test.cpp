@@ -21,6 +21,7 @@
 #include "gui/help_windows.h"
 #include "gui/main_window.h"
 #include "gui/morve_app.h"
+#include "gui_test_support.h"
 
 using namespace morve;
 
@@ -45,16 +46,6 @@ QStringList captions(const QList<QAction*>& actions) {
 class MenuHelpTest : public QObject {
     Q_OBJECT
 
-    static AppOptions quick() {
-        AppOptions o;
-        o.splash = false;
-        o.exitMs = 0;
-        o.quitAtExit = false;
-        return o;
-    }
-    void settle() {
-        for (int i = 0; i < 3; ++i) QApplication::processEvents();
-    }
 
 private slots:
     void menuTreeFollowsTheCatalogue() {
@@ -100,7 +91,7 @@ private slots:
     }
 
     void helpListShowsTheModulePageAtTheTopRight() {
-        MorveApp app(quick());
+        MorveApp app(quickOptions());
         app.start();
         app.startDialog()->confirm();
         settle();
@@ -138,7 +129,7 @@ private slots:
     }
 
     void generalPagesAndAMissingPage() {
-        MorveApp app(quick());
+        MorveApp app(quickOptions());
         app.start();
         app.startDialog()->confirm();
         settle();

@@ -16,6 +16,7 @@
 #include "gui/gui_prompter.h"
 #include "gui/main_window.h"
 #include "gui/morve_app.h"
+#include "gui_test_support.h"
 #include "gui/screen_window.h"
 
 using namespace morve;
@@ -25,16 +26,6 @@ class ModuleRunTest : public QObject {
     std::unique_ptr<MorveApp> app;
     std::unique_ptr<ScriptedPrompter> prompter;
 
-    static AppOptions quick() {
-        AppOptions o;
-        o.splash = false;
-        o.exitMs = 0;
-        o.quitAtExit = false;
-        return o;
-    }
-    void settle() {
-        for (int i = 0; i < 3; ++i) QApplication::processEvents();
-    }
     ScreenWindow* form7() { return app->module() ? app->module()->window("Form7") : nullptr; }
     QLineEdit* box(const char* name) { return qobject_cast<QLineEdit*>(form7()->control(name)); }
     void type(const char* name, const char* text) {
@@ -62,7 +53,7 @@ class ModuleRunTest : public QObject {
 private slots:
     void init() {
         setBeepHandler([] {});
-        app = std::make_unique<MorveApp>(quick());
+        app = std::make_unique<MorveApp>(quickOptions());
         app->start();
         settle();
         answer({});
@@ -214,7 +205,7 @@ private slots:
         const char* before = "C.utf8";
         app.reset();
         std::setlocale(LC_NUMERIC, before);
-        app = std::make_unique<MorveApp>(quick());
+        app = std::make_unique<MorveApp>(quickOptions());
         app->start();
         settle();
         // The point for the whole run, whatever the user's setting.
