@@ -82,6 +82,27 @@ private slots:
         QVERIFY(!app->tipWindow()->isVisible());
     }
 
+    void splashGivesWayToTheMenuAndClosingTheMenuEnds() {
+        AppOptions o = quickOptions();
+        o.splash = true;
+        o.splashMs = 1;
+        app = std::make_unique<MorveApp>(o);
+        app->start();
+        QWidget* splash = nullptr;
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (w->objectName() == "Form0entra" && w->isVisible()) splash = w;
+        QVERIFY(splash);
+        QVERIFY(!app->menu()->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(app->menu()->isVisible(), 1000);
+        QVERIFY(app->startDialog() && app->startDialog()->isVisible());
+        app->startDialog()->confirm();
+        settle();
+        app->menu()->close();
+        settle();
+        QVERIFY(app->exiting());
+        QVERIFY(app->exitWindow()->isVisible() || !app->menu()->isVisible());
+    }
+
     void form7RunWithQuestionsAndWarnings() {
         app->startDialog()->confirm();
         openForm7();
