@@ -1,0 +1,149 @@
+// The screen contract: key filters, start-up defaults, the module catalogue.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <set>
+
+#include "app/catalogue.h"
+#include "app/form_state.h"
+#include "app/key_filters.h"
+#include "app/module.h"
+#include "app/start_defaults.h"
+
+using namespace morve;
+
+TEST(KeyFilters, PositiveNumberTurnsCommaIntoPointAndRefusesTheRest) {
+    EXPECT_EQ(PositiveNumberKey(',').code, '.');
+    EXPECT_FALSE(PositiveNumberKey(',').beep);
+    for (int c = '0'; c <= '9'; ++c) EXPECT_EQ(PositiveNumberKey(c).code, c);
+    EXPECT_EQ(PositiveNumberKey('.').code, '.');
+    for (int c : {int('-'), int('/'), int('+'), int('a'), int('e'), int(' '), 8, 13, 27, 0xE9}) {
+        EXPECT_EQ(PositiveNumberKey(c).code, 0) << c;
+        EXPECT_TRUE(PositiveNumberKey(c).beep) << c;
+    }
+}
+
+TEST(KeyFilters, SignedNumberLetsTheMinusThrough) {
+    EXPECT_EQ(SignedNumberKey('-').code, '-');
+    EXPECT_EQ(SignedNumberKey(',').code, '.');
+    EXPECT_EQ(SignedNumberKey('/').code, 0);
+    EXPECT_TRUE(SignedNumberKey('/').beep);
+    EXPECT_EQ(SignedNumberKey('+').code, 0);
+    EXPECT_EQ(SignedNumberKey(8).code, 0);  // backspace is swallowed too
+}
+
+TEST(KeyFilters, DigitKeepsDigitsOnlyAndNeverConvertsTheComma) {
+    for (int c = '0'; c <= '9'; ++c) EXPECT_EQ(DigitKey(c).code, c);
+    for (int c : {int(','), int('.'), int('-'), 8, int('x')}) {
+        EXPECT_EQ(DigitKey(c).code, 0) << c;
+        EXPECT_TRUE(DigitKey(c).beep) << c;
+    }
+    EXPECT_EQ(applyKeyFilter(KeyFilter::None, ',').code, ',');
+}
+
+TEST(StartDefaults, InitialSelectionsAndEcsByBothCodes) {
+    StartDefaults d;
+    EXPECT_EQ(d.list(1), "20");
+    EXPECT_EQ(d.list(2), "CA-60");
+    EXPECT_EQ(d.list(3), "CA-50");
+    EXPECT_EQ(d.list(4), "CEB/90");
+    EXPECT_EQ(d.list(5), "CEB/90");
+    d.confirm();
+    EXPECT_NEAR(d.ecs, 18275 * std::cbrt(2.8), 1e-9);
+    EXPECT_NEAR(d.ecs, 25757.88, 0.01);  // 18275 x 1.409459
+
+    // NBR-6118: alpha = 0.8 + 0.2 fck / 80, at most 1; 5600 sqrt(fck) up to 50 MPa.
+    EXPECT_NEAR(computeEcs(20, "NBR-6118"), 0.85 * 5600 * std::sqrt(20.0), 1e-9);    // 21287.37
+    EXPECT_NEAR(computeEcs(50, "NBR-6118"), 0.925 * 5600 * std::sqrt(50.0), 1e-9);   // 36628.13
+    EXPECT_NEAR(computeEcs(55, "NBR-6118"), 0.9375 * 21500 * std::cbrt(6.75), 1e-9); // 38092.93
+    EXPECT_NEAR(computeEcs(80, "NBR-6118"), 1.0 * 21500 * std::cbrt(9.25), 1e-9);    // alpha reaches 1
+    EXPECT_NEAR(computeEcs(90, "NBR-6118"), 1.0 * 21500 * std::cbrt(10.25), 1e-9);   // and stays there
+    EXPECT_NEAR(computeEcs(50, "CEB/90"), 18275 * std::cbrt(5.8), 1e-9);
+    EXPECT_NEAR(computeEcs(90, "CEB/90"), 18275 * std::cbrt(9.8), 1e-9);
+}
+
+TEST(StartDefaults, SelectingByTextRecomputesEcsAndRefusesUnknownItems) {
+    StartDefaults d;
+    EXPECT_TRUE(d.select(4, "NBR-6118"));
+    EXPECT_NEAR(d.ecs, 0.85 * 5600 * std::sqrt(20.0), 1e-9);
+    EXPECT_TRUE(d.select(1, "55"));
+    EXPECT_NEAR(d.ecs, 0.9375 * 21500 * std::cbrt(6.75), 1e-9);
+    EXPECT_FALSE(d.select(1, "22"));
+    EXPECT_FALSE(d.select(3, "CA-25"));
+    EXPECT_FALSE(d.select(6, "CEB/90"));
+    EXPECT_EQ(d.list(1), "55");
+}
+
+TEST(ModuleCatalogue, MenuRowsAreCompleteAndConsistent) {
+    const auto& rows = ModuleCatalogue::rows();
+    EXPECT_EQ(rows.size(), 38u);
+    std::set<std::string> commands, modules;
+    for (const auto& r : rows) {
+        EXPECT_TRUE(commands.insert(r.command).second) << r.command;
+        EXPECT_TRUE(modules.insert(r.module).second) << r.module;
+        EXPECT_FALSE(r.reportKeys.empty()) << r.module;
+        EXPECT_FALSE(r.path.empty()) << r.module;
+        for (const auto& m : r.path) {
+            bool known = false;
+            for (const auto& node : ModuleCatalogue::menus()) known = known || node.name == m;
+            EXPECT_TRUE(known) << m;
+        }
+    }
+    const CatalogueRow* form7 = ModuleCatalogue::byModule("Form7");
+    ASSERT_NE(form7, nullptr);
+    EXPECT_EQ(form7->caption, "Dimensionamento: Seção retangular");
+    EXPECT_EQ(form7->command, "Command10");
+    EXPECT_EQ(form7->reportKeys, (std::vector<std::string>{"Form7", "Form8b"}));
+    EXPECT_EQ(form7->help, "Ajuda7");
+    EXPECT_EQ(ModuleCatalogue::byModule("Form20")->caption, "    Flexão simples");
+    EXPECT_EQ(ModuleCatalogue::menuCaption("Laje"), "    Lajes maciças");
+    EXPECT_EQ(ModuleCatalogue::byModule("Form41")->help, "");
+    EXPECT_EQ(ModuleCatalogue::helpList().size(), 36u);
+    EXPECT_EQ(ModuleCatalogue::helpMenu().size(), 7u);
+}
+
+TEST(ModuleCatalogue, EveryReportKeyHasItsTitleAndOwnerInDispatchOrder) {
+    const auto& keys = ModuleCatalogue::reportKeys();
+    EXPECT_EQ(keys.size(), 43u);
+    EXPECT_EQ(keys.front().key, "Form10");
+    EXPECT_EQ(keys.back().key, "Form42");
+    const ReportKey* k = ModuleCatalogue::reportKey("Form8b");
+    ASSERT_NE(k, nullptr);
+    EXPECT_EQ(k->module, "Form7");
+    EXPECT_EQ(k->title, "Dimensionamento à Flexão Simples de Seções Retangulares");
+    EXPECT_EQ(ModuleCatalogue::reportKey("Form6b")->module, "Form6");
+    EXPECT_EQ(ModuleCatalogue::reportKey("Form22d")->module, "Form22");
+    EXPECT_EQ(ModuleCatalogue::reportKey("Form99"), nullptr);
+}
+
+TEST(FormState, QualifiesNamesAndKeepsGroupsListsAndGrids) {
+    ScreenBuilder a("FormA", "A");
+    a.frame("Frame1", "", 0, 0)
+        .box("Text1", "x=", "5")
+        .list("List1", "l", {"a", "b"}, "b")
+        .option("Option1", "one", "g", true)
+        .option("Option2", "two", "g")
+        .command("Command1", "&OK")
+        .disabled();
+    ScreenBuilder b("FormAb", "B", false);
+    b.grid("Grade1", GridDecl{{"Camada", "Barras"}, 2, 300, KeyFilter::Digit, true});
+    FormState s("FormA", {a.build(), b.build()});
+
+    EXPECT_EQ(s.qualify("Text1"), "FormA.Text1");
+    EXPECT_EQ(s.qualify("FormAb.Grade1"), "FormAb.Grade1");
+    EXPECT_EQ(s.number("Text1"), 5);
+    EXPECT_EQ(s.text("List1"), "b");
+    EXPECT_TRUE(s.option("Option1"));
+    s.setOption("Option2", true);
+    EXPECT_FALSE(s.option("Option1"));
+    EXPECT_TRUE(s.option("Option2"));
+    EXPECT_FALSE(s.enabled("Command1"));
+    EXPECT_TRUE(s.has("FormAb.Grade1"));
+    EXPECT_FALSE(s.has("Text9"));
+    const GridRows& g = s.grid("FormAb.Grade1");
+    ASSERT_EQ(g.size(), 3u);
+    EXPECT_EQ(g[0][0], "Camada");
+    EXPECT_EQ(g[2][0], "2");
+    EXPECT_EQ(s.cell("FormAb.Grade1", 9, 9), "");  // outside the grid reads as blank
+    EXPECT_EQ(s.cellNumber("FormAb.Grade1", 1, 0), 1);
+}

@@ -1,0 +1,312 @@
+// The rectangular-section design module: its checks in order, its results against
+// hand calculations, its screen effects and its report.
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "app/module.h"
+#include "basis/messages.h"
+#include "beams/form7.h"
+#include "reports/report_dispatch.h"
+#include "reports/report_writer.h"
+
+using namespace morve;
+
+namespace {
+
+const Module& form7() { return *ModuleRegistry::find("Form7"); }
+
+struct Run {
+    std::unique_ptr<ModuleSession> session;
+    ScriptedPrompter prompter;
+    Outcome outcome;
+    const std::string& text(const std::string& name) const { return session->state().text(name); }
+};
+
+// Load with the start dialog's first selections, the section b 20, h 40, d 36 of
+// the window's defaults, d' = 4 and class 1, then the changes of the case.
+std::unique_ptr<Run> calculate(const std::map<std::string, std::string>& set,
+                               std::vector<std::string> answers = {},
+                               StartDefaults defaults = {}) {
+    auto run = std::make_unique<Run>();
+    run->session = std::make_unique<ModuleSession>(form7(), defaults);
+    FormState& s = run->session->state();
+    s.setText("Text10", "4");
+    s.setText("Text6", "50");
+    s.setText("List6", "1");
+    for (const auto& [name, value] : set) s.setText(name, value);
+    run->prompter = ScriptedPrompter(std::move(answers));
+    run->outcome = run->session->press("Command1", run->prompter);
+    return run;
+}
+
+}  // namespace
+
+TEST(Form7Load, TakesTheStartDefaults) {
+    ModuleSession plain(form7(), StartDefaults{});
+    EXPECT_EQ(plain.state().text("Text1"), "20");
+    EXPECT_EQ(plain.state().text("Text2"), "500");
+    EXPECT_EQ(plain.state().text("Text9"), "200");
+    EXPECT_EQ(plain.state().text("List2"), "CEB/90");
+    EXPECT_EQ(plain.state().text("List3"), "1.00");
+    EXPECT_EQ(plain.state().text("List6"), "");  // the user must choose
+    EXPECT_EQ(plain.state().text("Text10"), "");
+    EXPECT_FALSE(plain.state().enabled("Command3"));
+    EXPECT_FALSE(plain.state().enabled(printButton("Form7")));
+
+    StartDefaults d;
+    d.select(1, "30");
+    d.select(3, "CA-60");
+    d.select(5, "NBR-6118");
+    ModuleSession chosen(form7(), d);
+    EXPECT_EQ(chosen.state().text("Text1"), "30");
+    EXPECT_EQ(chosen.state().text("Text2"), "600");
+    EXPECT_EQ(chosen.state().text("Text9"), "210");
+}
+
+struct CheckCase {
+    const char* name;
+    std::map<std::string, std::string> set;
+    std::vector<std::string> answers;
+    std::string message;
+    MessageKind kind;
+    std::string focus;
+};
+
+class Form7Checks : public ::testing::TestWithParam<CheckCase> {};
+
+TEST_P(Form7Checks, StopsWithItsTextAndFocus) {
+    const CheckCase& c = GetParam();
+    auto run = calculate(c.set, c.answers);
+    EXPECT_FALSE(run->outcome.completed);
+    ASSERT_FALSE(run->prompter.messages().empty());
+    const Message& last = run->prompter.messages().back();
+    EXPECT_EQ(last.text, c.message);
+    EXPECT_EQ(last.kind, c.kind);
+    EXPECT_EQ(last.title, "MORVE");
+    EXPECT_EQ(run->outcome.focus, c.focus);
+    EXPECT_EQ(run->text("Text7"), " ");
+    EXPECT_EQ(run->text("Text8"), " ");
+    EXPECT_TRUE(run->outcome.effects.empty());
+}
+
+const std::string kNonZeroMk = "Forneça um valor não nulo para Mk.";
+using K = MessageKind;
+
+INSTANTIATE_TEST_SUITE_P(
+    InOrder, Form7Checks,
+    ::testing::Values(
+        CheckCase{"LowFck", {{"Text1", "19.9"}, {"Text2", "0"}}, {}, msg::kLowFck, K::Warning, ""},
+        CheckCase{"HighFck", {{"Text1", "90.1"}, {"List6", ""}}, {}, msg::kHighFck, K::Warning, "Form7.Text1"},
+        CheckCase{"NoClass", {{"List6", ""}, {"Text2", "0"}}, {}, msg::kChooseClass, K::Warning, "Form7.List6"},
+        CheckCase{"ClassFck", {{"List6", "4"}, {"Text1", "35"}}, {}, msg::kClassFck, K::Warning, "Form7.Text1"},
+        CheckCase{"Fyk", {{"Text2", "0"}, {"Text9", "0"}}, {}, msg::kPositiveFyk, K::Warning, "Form7.Text2"},
+        CheckCase{"Es", {{"Text9", "-1"}, {"Text2", "450"}}, {}, msg::kPositiveEs, K::Warning, "Form7.Text9"},
+        CheckCase{"SteelClass", {{"Text2", "450"}}, {"yes"}, msg::kSteelClass, K::YesNo, "Form7.Text2"},
+        CheckCase{"CodeEs", {{"Text9", "205"}}, {"yes"}, msg::kCodeEs, K::YesNo, "Form7.Text9"},
+        CheckCase{"B", {{"Text3", "0"}, {"Text4", "0"}}, {}, "Forneça um valor positivo para b.", K::Warning, "Form7.Text3"},
+        CheckCase{"Width", {{"Text3", "11.9"}}, {"yes"}, msg::kBeamWidth, K::YesNo, "Form7.Text3"},
+        CheckCase{"H", {{"Text4", "0"}}, {}, msg::kPositiveH, K::Warning, "Form7.Text4"},
+        CheckCase{"D", {{"Text5", "-2"}}, {}, msg::kPositiveD, K::Warning, "Form7.Text5"},
+        CheckCase{"DAtH", {{"Text5", "40"}}, {}, msg::kDBelowH, K::Warning, "Form7.Text5"},
+        CheckCase{"MkZero", {{"Text6", ""}, {"Text10", ""}}, {}, kNonZeroMk, K::Warning, "Form7.Text6"},
+        CheckCase{"DPrime", {{"Text10", ""}}, {}, msg::kPositiveDPrime, K::Warning, "Form7.Text10"},
+        CheckCase{"DPrimeAtD", {{"Text10", "36"}}, {}, msg::kDPrimeBelowD, K::Warning, "Form7.Text10"},
+        CheckCase{"Gamac", {{"Text13", "0.9"}, {"Text14", "0.9"}}, {}, msg::kPartialCoefficient, K::Warning, "Form7.Text13"},
+        CheckCase{"Gamas", {{"Text14", "0.99"}}, {}, msg::kPartialCoefficient, K::Warning, "Form7.Text14"},
+        CheckCase{"Gamaf", {{"Text15", ""}}, {}, msg::kPartialCoefficient, K::Warning, "Form7.Text15"},
+        CheckCase{"BalancedBeta", {{"List2", "Balanceada"}, {"List3", "0.90"}}, {}, msg::kBalancedBeta, K::Warning, "Form7.List2"},
+        // fck 90 with NBR-6118 at Beta 0.75: xlim 0.15 is below 2.6 / 12.6, so any
+        // section that needs compression steel stops.
+        CheckCase{"Domain2", {{"Text1", "90"}, {"List2", "NBR-6118"}, {"List3", "0.75"}, {"Text6", "200"}}, {},
+                  msg::kDomain2, K::Warning, "Form7.Text4"},
+        // d' / d = 0.56 above xlim 0.45 under a heavy moment.
+        CheckCase{"DeltaAboveXlim", {{"Text10", "20"}, {"Text6", "100"}}, {}, msg::kEnlargeSection, K::Warning, "Form7.Text4"},
+        CheckCase{"RateAbove4", {{"Text6", "250"}}, {}, msg::kSteelRateAbove4, K::Warning, ""}),
+    [](const ::testing::TestParamInfo<CheckCase>& info) { return info.param.name; });
+
+TEST(Form7Checks, QuestionsAnsweredNoGoOnWithTheValueAsTyped) {
+    // fyk 450, Es 205 and b 11 are all kept.
+    auto run = calculate({{"Text2", "450"}, {"Text9", "205"}, {"Text3", "11"}}, {"no", "no", "no"});
+    EXPECT_EQ(run->prompter.messages().size(), 3u);
+    EXPECT_TRUE(run->outcome.completed);
+    // b 11: mu = 7000 / (11 x 1296 x 1.214286) = 0.40437, above mulim 0.2952:
+    // double reinforcement with delta 1/9; es' = 0.002636 > 39.13 / 20500, yields.
+    // omega' = (0.40437 - 0.2952) / 0.88889 = 0.12282; omega = 0.36 + 0.12282
+    // unit = 11 x 36 x 1.214286 / 39.1304 = 12.2886
+    EXPECT_EQ(run->text("Text7"), "5.93");
+    EXPECT_EQ(run->text("Text8"), "1.51");
+}
+
+TEST(Form7Results, SingleReinforcementByHand) {
+    // Md = 7000 kNcm; sigmacd = 0.85 x 2 / 1.4 = 1.214286; mu = 7000 / (20 x 36^2 x
+    // 1.214286) = 0.222404 <= mulim 0.2952; omega = 1 - sqrt(1 - 2 mu) = 0.254889;
+    // As = omega x 20 x 36 x 1.214286 / 43.478 = 5.1254.
+    auto run = calculate({});
+    EXPECT_TRUE(run->outcome.completed);
+    EXPECT_EQ(run->text("Text7"), "5.13");
+    EXPECT_EQ(run->text("Text8"), "0");
+    EXPECT_EQ(run->outcome.focus, "");
+}
+
+TEST(Form7Results, DoubleReinforcementByHand) {
+    // Mk 100: mu = 0.444808 > 0.2952. delta = 1/9, es' = (0.45 - 0.1111) 3.5 / 0.45
+    // = 2.636 per mille above eyd = 2.174: sigmas' = fyd. omega' = 0.149608 / 0.888889
+    // = 0.168309, omega = 0.36 + 0.168309; x (20 x 36 x 1.214286 / 43.478 = 20.1086).
+    auto run = calculate({{"Text6", "100"}});
+    EXPECT_EQ(run->text("Text7"), "10.62");
+    EXPECT_EQ(run->text("Text8"), "3.38");
+}
+
+TEST(Form7Results, CompressionSteelBelowYield) {
+    // d' 12: delta 1/3, es' = (0.45 - 0.3333) 3.5 / 0.45 = 0.9074 per mille, elastic:
+    // sigmas' = 0.0009074 x 20000 = 18.148. omega' = 0.149608 x 43.478 / (0.66667 x
+    // 18.148) = 0.537640 -> As' = 10.811; omega = 0.36 + 0.224412 -> As = 11.752.
+    auto run = calculate({{"Text6", "100"}, {"Text10", "12"}});
+    EXPECT_EQ(run->text("Text7"), "11.75");
+    EXPECT_EQ(run->text("Text8"), "10.81");
+}
+
+TEST(Form7Results, MinimumSteelGovernsTheTensionSideOnly) {
+    // Mk 5 needs 0.45 cm2; rhomin at fck 20 is raised to 0.0015: 0.0015 x 800 = 1.2.
+    auto light = calculate({{"Text6", "5"}});
+    EXPECT_EQ(light->text("Text7"), "1.2");
+    EXPECT_EQ(light->text("Text8"), "0");
+    // At fck 30: rhomin = 0.078 x 30^(2/3) / 434.78 = 0.0017321 -> 1.3857 cm2.
+    auto c30 = calculate({{"Text6", "5"}, {"Text1", "30"}});
+    EXPECT_EQ(c30->text("Text7"), "1.39");
+}
+
+TEST(Form7Results, ANegativeMomentIsDesignedByItsSize) {
+    auto negative = calculate({{"Text6", "-100"}});
+    EXPECT_TRUE(negative->outcome.completed);
+    EXPECT_TRUE(negative->prompter.messages().empty());
+    EXPECT_EQ(negative->text("Text7"), "10.62");
+    EXPECT_EQ(negative->text("Text8"), "3.38");
+}
+
+TEST(Form7Results, ALightMomentIgnoresALargeDPrime) {
+    auto run = calculate({{"Text10", "20"}, {"Text6", "30"}});
+    EXPECT_TRUE(run->outcome.completed);
+    EXPECT_EQ(run->text("Text8"), "0");
+}
+
+TEST(Form7Results, NeverShowsNanOrInfOnExtremeInput) {
+    for (const char* mk : {"1e9", "99999999", "0.0000001"}) {
+        auto run = calculate({{"Text6", mk}});
+        for (const char* box : {"Text7", "Text8"}) {
+            EXPECT_EQ(run->text(box).find("nan"), std::string::npos);
+            EXPECT_EQ(run->text(box).find("inf"), std::string::npos);
+        }
+    }
+}
+
+TEST(Form7Effects, SuccessEnablesDetailingAndPrintAndAFailureKeepsThem) {
+    auto run = calculate({});
+    EXPECT_EQ(run->outcome.effects,
+              (std::vector<ScreenEffect>{{EffectKind::EnableControl, "Form7.Command3"},
+                                         {EffectKind::EnableControl, "Form7.Toolbar1.Imprimir"}}));
+    FormState& s = run->session->state();
+    EXPECT_TRUE(s.enabled(printButton("Form7")));
+    s.setText("Text4", "0");
+    Outcome failed = run->session->press("Command1", run->prompter);
+    EXPECT_FALSE(failed.completed);
+    EXPECT_TRUE(s.enabled(printButton("Form7")));
+    EXPECT_TRUE(s.enabled("Command3"));
+    EXPECT_EQ(s.text("Text7"), " ");
+}
+
+TEST(Form7Effects, DetailingCopiesTheAreasAndShowsTheDetailingScreen) {
+    auto run = calculate({{"Text6", "100"}});
+    Outcome o = run->session->press("Command3", run->prompter);
+    EXPECT_TRUE(o.completed);
+    EXPECT_EQ(o.effects, (std::vector<ScreenEffect>{{EffectKind::HideScreen, "FormAjuda"},
+                                                    {EffectKind::ShowScreen, "Form0b"},
+                                                    {EffectKind::HideScreen, "Form7"},
+                                                    {EffectKind::ShowScreen, "Form8"}}));
+    EXPECT_EQ(run->text("Form8.Text1"), "10.62");
+    EXPECT_EQ(run->text("Form8.Text2"), "3.38");
+    EXPECT_FALSE(run->session->screenShown("Form7"));
+    EXPECT_TRUE(run->session->screenShown("Form8"));
+}
+
+namespace {
+
+std::vector<std::string> reportLines(const ModuleSession& session, const std::string& key) {
+    ReportWriter w;
+    EXPECT_TRUE(generateReport(key, session.module(), session.state(), w));
+    std::vector<std::string> lines;
+    for (const auto& b : w.document().blocks)
+        if (const auto* l = std::get_if<ReportLine>(&b)) lines.push_back(l->text());
+    return lines;
+}
+
+}  // namespace
+
+TEST(Form7Report, LineByLine) {
+    auto run = calculate({{"Text6", "100"}});
+    std::vector<std::string> expected{
+        "Propriedades dos materiais:",
+        "Concreto: fck= 20 MPa",
+        "Aço: fyk= 500 MPa     Es= 200 GPa",
+        " ",
+        "Coeficientes parciais de segurança:",
+        "Gamac= 1.4     Gamas= 1.15     Gamaf= 1.4",
+        " ",
+        "Dimensões da seção transversal:",
+        "Largura b= 20 cm                       Altura h= 40 cm",
+        "Altura útil d= 36 cm                   Distância d'= 4 cm",
+        " ",
+        "Momento fletor de serviço Mk= 100 kNm",
+        " ",
+        "Coeficiente de redistribuição de momentos: Beta = 1",
+        "Critério de ductilidade: CEB/90.  xlim/d = 0.45",
+        " ",
+        "SOLUÇÃO:",
+        " ",
+        "Armadura tracionada As= 10.62 cm2",
+        "Armadura comprimida As'= 3.38 cm2",
+    };
+    EXPECT_EQ(reportLines(*run->session, "Form7"), expected);
+    ReportWriter w;
+    generateReport("Form7", run->session->module(), run->session->state(), w);
+    EXPECT_EQ(w.document().title, "Dimensionamento à Flexão Simples de Seções Retangulares");
+    // The screen page holds the 7 header lines and these 20: one page.
+    EXPECT_EQ(paginate(w.document(), "Viga V1", PageRule::Screen).size(), 1u);
+}
+
+TEST(Form7Report, CriterionLineByCriterion) {
+    auto run = calculate({{"List2", "NBR-6118"}, {"List3", "0.95"}});
+    EXPECT_EQ(reportLines(*run->session, "Form7")[14], "Critério de ductilidade: NBR-6118.  xlim/d = 0.41");
+    // Balanced with CA-50 and Es 200: 0.0035 / (0.0021739 + 0.0035) = 0.61686, three decimals.
+    auto balanced = calculate({{"List2", "Balanceada"}});
+    EXPECT_EQ(reportLines(*balanced->session, "Form7")[14],
+              "Critério de ductilidade: Condição balanceada. xlim / d = 0.617");
+    // fck 40 with CEB/90 at Beta 0.8: 0.64 - 0.45, printed as the arithmetic gives it.
+    auto ceb = calculate({{"Text1", "40"}, {"List3", "0.80"}});
+    EXPECT_EQ(reportLines(*ceb->session, "Form7")[14],
+              "Critério de ductilidade: CEB/90.  xlim/d = 0.19");
+}
+
+TEST(Form7Report, AFailedRunPrintsBlankResults) {
+    auto run = calculate({{"Text4", "0"}});
+    auto lines = reportLines(*run->session, "Form7");
+    EXPECT_EQ(lines[18], "Armadura tracionada As=   cm2");
+    EXPECT_EQ(lines[9], "Altura útil d= 36 cm                   Distância d'= 4 cm");
+}
+
+TEST(Form7Report, UnknownOrForeignKeysWriteNothing) {
+    ModuleSession session(form7(), StartDefaults{});
+    ReportWriter w;
+    EXPECT_FALSE(generateReport("Form99", session.module(), session.state(), w));
+    EXPECT_FALSE(generateReport("Form10", session.module(), session.state(), w));
+    EXPECT_TRUE(w.document().blocks.empty());
+}
+
+TEST(Form7Sketch, LabelsEveryDimensionAndBothSteels) {
+    Drawing g = form7().drawing("Form7.Picture1", FormState{});
+    std::set<std::string> labels;
+    for (const auto& s : g.shapes)
+        if (const auto* l = std::get_if<Label>(&s.geometry)) labels.insert(l->text);
+    EXPECT_EQ(labels, (std::set<std::string>{"b", "h", "d", "d'", "As", "A's"}));
+}

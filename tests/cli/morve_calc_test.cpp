@@ -1,0 +1,135 @@
+// morve-calc end to end: the example cases, the report file, and the refusals of
+// unusable cases with exit status 2.
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sys/wait.h>
+
+#include <nlohmann/json.hpp>
+
+namespace fs = std::filesystem;
+using nlohmann::json;
+
+namespace {
+
+struct Result {
+    int status;
+    std::string out;
+};
+
+Result runCalc(const std::string& args) {
+    std::string command = std::string(MORVE_CALC) + " " + args + " 2>&1";
+    FILE* pipe = popen(command.c_str(), "r");
+    std::string out;
+    std::array<char, 4096> buf{};
+    while (std::size_t n = fread(buf.data(), 1, buf.size(), pipe)) out.append(buf.data(), n);
+    int status = pclose(pipe);
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, out};
+}
+
+std::string writeCase(const std::string& name, const std::string& body) {
+    fs::path p = fs::temp_directory_path() / ("morve-calc-test-" + name + ".json");
+    std::ofstream(p) << body;
+    return p.string();
+}
+
+std::string example(const std::string& name) { return std::string(MORVE_EXAMPLES) + "/" + name; }
+
+}  // namespace
+
+TEST(MorveCalc, Form7ExampleGivesTheHandCalculatedAreas) {
+    Result r = runCalc(example("form7-armadura-simples.json"));
+    ASSERT_EQ(r.status, 0) << r.out;
+    json j = json::parse(r.out);
+    EXPECT_EQ(j["fields"]["Form7.Text7"], "5.13");
+    EXPECT_EQ(j["fields"]["Form7.Text8"], "0");
+    EXPECT_EQ(j["steps"][0]["completed"], true);
+    EXPECT_TRUE(j["steps"][0]["focus"].is_null());
+}
+
+TEST(MorveCalc, EveryExampleRuns) {
+    int count = 0;
+    for (const auto& entry : fs::directory_iterator(MORVE_EXAMPLES)) {
+        if (entry.path().extension() != ".json") continue;
+        Result r = runCalc(entry.path().string());
+        EXPECT_EQ(r.status, 0) << entry.path() << "\n" << r.out;
+        EXPECT_EQ(r.out.find("nan"), std::string::npos) << entry.path();
+        ++count;
+    }
+    EXPECT_GT(count, 0);
+}
+
+TEST(MorveCalc, QuestionsTakeTheGivenAnswersThenNo) {
+    std::string path = writeCase("answers", R"({"module": "Form7",
+        "startup": {"fck": "25", "bars": "CA-50", "es": "CEB/90"},
+        "set": {"Text2": "450", "Text9": "205", "Text10": "4", "Text6": "50", "List6": "2"},
+        "answers": ["no"]})");
+    Result r = runCalc(path);
+    ASSERT_EQ(r.status, 0) << r.out;
+    json j = json::parse(r.out);
+    const json& messages = j["steps"][0]["messages"];
+    ASSERT_EQ(messages.size(), 2u);
+    EXPECT_EQ(messages[0]["kind"], "yesno");
+    EXPECT_EQ(messages[0]["answer"], "no");
+    EXPECT_EQ(messages[1]["answer"], "no");  // the answers ran out
+    EXPECT_EQ(j["fields"]["Form7.Text1"], "25");
+    EXPECT_EQ(j["steps"][0]["completed"], true);
+}
+
+TEST(MorveCalc, AStopReportsItsMessageAndFocus) {
+    std::string path = writeCase("stop", R"({"module": "Form7", "set": {"Text6": "50"}})");
+    Result r = runCalc(path);
+    ASSERT_EQ(r.status, 0) << r.out;
+    json j = json::parse(r.out);
+    EXPECT_EQ(j["steps"][0]["completed"], false);
+    EXPECT_EQ(j["steps"][0]["focus"], "Form7.List6");
+    EXPECT_EQ(j["steps"][0]["messages"][0]["text"], "Escolha a classe de agressividade ambiental.");
+    EXPECT_EQ(j["fields"]["Form7.Text6"], "50");  // nothing typed is changed
+}
+
+TEST(MorveCalc, WritesTheReportAsText) {
+    fs::path out = fs::temp_directory_path() / "morve-calc-test-report.txt";
+    Result r = runCalc("--report " + out.string() + " --title 'Viga V1' " +
+                       example("form7-armadura-simples.json"));
+    ASSERT_EQ(r.status, 0) << r.out;
+    std::ifstream in(out);
+    std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    EXPECT_NE(text.find("Módulo: Dimensionamento à Flexão Simples de Seções Retangulares\n"), std::string::npos);
+    EXPECT_NE(text.find("Denominação: Viga V1\n"), std::string::npos);
+    EXPECT_NE(text.find("Armadura tracionada As= 5.13 cm2\n"), std::string::npos);
+}
+
+TEST(MorveCalc, ListsTheRegisteredModules) {
+    Result r = runCalc("--list");
+    ASSERT_EQ(r.status, 0);
+    EXPECT_NE(r.out.find("Form7\tDimensionamento à Flexão Simples de Seções Retangulares\tForm7 Form8b"),
+              std::string::npos);
+}
+
+TEST(MorveCalc, UnusableCasesExitWithTwoAndSayWhy) {
+    struct Bad {
+        const char* body;
+        const char* says;
+    };
+    const Bad cases[] = {
+        {"{not json", "JSON"},
+        {R"({"set": {}})", "módulo"},
+        {R"({"module": "Form99"})", "módulo desconhecido: Form99"},
+        {R"({"module": "Form7", "set": {"Text99": "1"}})", "controle desconhecido: Text99"},
+        {R"({"module": "Form7", "set": {"List6": "7"}})", "item inexistente na lista List6: 7"},
+        {R"({"module": "Form7", "press": ["Command9"]})", "botão desconhecido: Command9"},
+        {R"({"module": "Form7", "startup": {"fck": "22"}})", "valor de início inexistente para fck: 22"},
+        {R"({"module": "Form7", "grids": {"Grade1": []}})", "grade desconhecida: Grade1"},
+    };
+    int i = 0;
+    for (const auto& c : cases) {
+        Result r = runCalc(writeCase("bad" + std::to_string(i++), c.body));
+        EXPECT_EQ(r.status, 2) << c.body;
+        EXPECT_NE(r.out.find(c.says), std::string::npos) << c.body << "\n" << r.out;
+    }
+    EXPECT_EQ(runCalc("/nonexistent/case.json").status, 2);
+    EXPECT_EQ(runCalc("").status, 2);
+}
