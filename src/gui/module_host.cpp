@@ -150,11 +150,20 @@ void ModuleHost::applyScreenEffects(const Outcome& outcome, ScreenWindow* caller
 }
 
 void ModuleHost::companionClosed(const std::string& screen) {
+    // As its "&Voltar" would: the companion goes, and the window it covered (a
+    // screen it had disabled, or else the module's main screen) is live again.
     Outcome back;
-    back.then(EffectKind::HideScreen, screen).then(EffectKind::ShowScreen, session_.info().key);
-    session_.apply(back);
+    back.then(EffectKind::HideScreen, screen);
     if (ScreenWindow* w = window(screen)) w->hide();
-    showScreen(session_.info().key);
+    bool anyShown = false;
+    for (const auto& [name, w] : windows_) {
+        if (!w->isVisible()) continue;
+        anyShown = true;
+        if (w != shell_.reportCaller()) w->setEnabled(true);
+    }
+    if (!anyShown) back.then(EffectKind::ShowScreen, session_.info().key);
+    session_.apply(back);
+    if (!anyShown) showScreen(session_.info().key);
 }
 
 std::string ModuleHost::helpPage() const {

@@ -29,6 +29,8 @@ public:
     virtual void showModuleHelp(const std::string& page) = 0;
     virtual void closeModuleHelp() = 0;
     virtual void startReport(const std::string& key, QWidget* caller) = 0;
+    // The window the open report panel has disabled; nullptr when none is open.
+    virtual QWidget* reportCaller() const = 0;
 };
 
 class ModuleHost : public QObject {

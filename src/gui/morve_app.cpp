@@ -166,6 +166,8 @@ void MorveApp::startReport(const std::string& key, QWidget* caller) {
     report_->activateWindow();
 }
 
+QWidget* MorveApp::reportCaller() const { return report_ ? report_->caller() : nullptr; }
+
 void MorveApp::helpMenu(const HelpMenuEntry& entry) {
     switch (entry.action) {
         case HelpAction::GeneralPage:

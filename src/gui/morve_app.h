@@ -48,6 +48,7 @@ public:
     void showModuleHelp(const std::string& page) override;
     void closeModuleHelp() override;
     void startReport(const std::string& key, QWidget* caller) override;
+    QWidget* reportCaller() const override;
 
     const StartDefaults& defaults() const { return defaults_; }
     MainWindow* menu() const { return menu_; }

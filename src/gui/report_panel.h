@@ -56,6 +56,7 @@ public:
     bool previewing() const { return previewing_; }
     QWidget* control(const char* name) const;
     const std::string& key() const { return key_; }
+    QWidget* caller() const { return caller_; }
 
     std::function<void()> onClosed;
 

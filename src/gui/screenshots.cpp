@@ -102,6 +102,35 @@ int takeScreenshots(const QString& folder) {
     ok &= save(panel, folder, "visualizar.png");
     panel->cancel();
     settle();
+
+    // The detailing that follows, when the module declares it: its screens and
+    // its report, which carries the drawing of the section.
+    setGuiPrompter(&answers);
+    app.module()->press("Form7", "Command3");
+    if (ScreenWindow* form8 = app.module()->window("Form8")) {
+        settle();
+        // The bars and restrictions of the detailing example.
+        FormState& state = app.module()->session().state();
+        const char* choices[][2] = {{"List1", "16"}, {"List2", "10"}, {"List3", "6.3"},
+                                    {"List4", "3"},  {"List5", "19"}, {"List6", "5"}};
+        for (const auto& [list, item] : choices) state.setText(std::string("Form8.") + list, item);
+        form8->loadFrom(state);
+        ok &= save(form8, folder, "form8.png");
+        app.module()->press("Form8", "Form8.Command2");
+        app.module()->press("Form8", "Form8.Command3");
+        if (ScreenWindow* form8b = app.module()->window("Form8b")) {
+            ok &= save(form8b, folder, "form8b.png");
+            app.module()->press("Form8b", "Form8b.Command2");
+            if (ReportPanel* report = app.reportPanel()) {
+                report->preview();
+                report->nextPage();
+                ok &= save(report, folder, "visualizar-form8b.png");
+                report->cancel();
+            }
+        }
+    }
+    setGuiPrompter(nullptr);
+    settle();
     return ok ? 0 : 1;
 }
 
