@@ -6,6 +6,13 @@
 #include "reports/report_dispatch.h"
 #include "reports/report_writer.h"
 
+#ifdef MORVE_HAS_RENDER
+#include <QString>
+
+#include "render/offscreen.h"
+#include "render/page_painter.h"
+#endif
+
 namespace morve {
 
 namespace {
@@ -32,7 +39,15 @@ std::string writeReportFile(const ModuleSession& session, const std::string& pat
         out << renderText(paginate(writer.document(), denomination, PageRule::Paper), PageRule::Paper);
         return out ? "" : "não foi possível gravar " + path;
     }
-    if (endsWith(path, ".pdf")) return "a gravação em PDF ainda não está disponível";
+    if (endsWith(path, ".pdf")) {
+#ifdef MORVE_HAS_RENDER
+        ensurePaintingApplication();
+        return writeReportPdf(paginate(writer.document(), denomination, PageRule::Paper),
+                              QString::fromStdString(path));
+#else
+        return "esta versão do morve-calc foi construída sem Qt e não grava PDF";
+#endif
+    }
     return "a extensão do relatório deve ser .txt ou .pdf: " + path;
 }
 

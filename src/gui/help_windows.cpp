@@ -1,0 +1,170 @@
+#include "gui/help_windows.h"
+
+#include <QCloseEvent>
+#include <QFile>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRandomGenerator>
+#include <QTextBrowser>
+#include <QTextStream>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include "app/catalogue.h"
+#include "gui/data_paths.h"
+
+namespace morve {
+
+HelpPageWindow::HelpPageWindow(const char* objectName, QWidget* parent) : QWidget(parent) {
+    setWindowFlag(Qt::Window);
+    setObjectName(QString::fromUtf8(objectName));
+    setWindowTitle(QStringLiteral(" MORVE"));
+    browser_ = new QTextBrowser(this);
+    browser_->setObjectName(QStringLiteral("RichTextBox1"));
+    browser_->setOpenExternalLinks(true);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(2, 2, 2, 2);
+    layout->addWidget(browser_);
+    resize(560, 640);
+}
+
+void HelpPageWindow::showPage(const std::string& baseName) {
+    page_ = baseName;
+    if (baseName.empty()) {
+        browser_->clear();
+        return;
+    }
+    const QString path = helpPagePath(QString::fromStdString(baseName));
+    if (!QFileInfo::exists(path)) {
+        browser_->setHtml(QStringLiteral("<h3>Página de ajuda não encontrada</h3>"
+                                         "<p>O arquivo <b>%1</b> não está na pasta de ajuda do MORVE:</p>"
+                                         "<p><tt>%2</tt></p>")
+                              .arg(QFileInfo(path).fileName().toHtmlEscaped(),
+                                   QFileInfo(path).absolutePath().toHtmlEscaped()));
+        return;
+    }
+    browser_->setSearchPaths({QFileInfo(path).absolutePath()});
+    browser_->setSource(QUrl::fromLocalFile(path));
+}
+
+HelpListWindow::HelpListWindow() {
+    setObjectName(QStringLiteral("Form0Help"));
+    setWindowTitle(QStringLiteral(" MORVE"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    auto* label = new QLabel(QStringLiteral("Selecione um módulo e clique em \"Exibir\""), this);
+    label->setObjectName(QStringLiteral("Label1"));
+    list_ = new QListWidget(this);
+    list_->setObjectName(QStringLiteral("List1"));
+    for (const HelpListRow& row : ModuleCatalogue::helpList()) list_->addItem(QString::fromStdString(row.text));
+    list_->setMinimumSize(460, 360);
+    auto* show = new QPushButton(QStringLiteral("&Exibir"), this);
+    show->setObjectName(QStringLiteral("Command2"));
+    auto* cancel = new QPushButton(QStringLiteral("&Cancelar"), this);
+    cancel->setObjectName(QStringLiteral("Command3"));
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(label);
+    layout->addWidget(list_);
+    auto* buttons = new QHBoxLayout();
+    buttons->addStretch(1);
+    buttons->addWidget(show);
+    buttons->addWidget(cancel);
+    layout->addLayout(buttons);
+    connect(show, &QPushButton::clicked, this, [this] { showSelected(); });
+    connect(list_, &QListWidget::itemDoubleClicked, this, [this] { showSelected(); });
+    connect(cancel, &QPushButton::clicked, this, [this] { close(); });
+}
+
+void HelpListWindow::showSelected() {
+    std::string page;
+    const auto selected = list_->selectedItems();
+    if (!selected.isEmpty()) {
+        const std::string text = selected.front()->text().toStdString();
+        for (const HelpListRow& row : ModuleCatalogue::helpList())
+            if (row.text == text) {
+                page = row.page;
+                break;
+            }
+    }
+    if (onShow) onShow(page);
+}
+
+void HelpListWindow::closeEvent(QCloseEvent* event) {
+    event->accept();
+    if (!done_ && onCancel) {
+        done_ = true;
+        onCancel();
+    }
+}
+
+TipWindow::TipWindow() {
+    setWindowFlag(Qt::Window);
+    setObjectName(QStringLiteral("FormTip"));
+    setWindowTitle(QStringLiteral(" MORVE"));
+    label_ = new QLabel(this);
+    label_->setObjectName(QStringLiteral("Label1"));
+    label_->setWordWrap(true);
+    label_->setMinimumSize(380, 90);
+    label_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    auto* ok = new QPushButton(QStringLiteral("OK"), this);
+    ok->setObjectName(QStringLiteral("Command1"));
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(label_);
+    auto* row = new QHBoxLayout();
+    row->addStretch(1);
+    row->addWidget(ok);
+    layout->addLayout(row);
+    connect(ok, &QPushButton::clicked, this, [this] { close(); });
+}
+
+QString TipWindow::tip() const { return label_->text(); }
+
+void TipWindow::drawTip() {
+    QFile file(tipsFilePath());
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        label_->setText(QStringLiteral("Arquivo não encontrado."));
+        return;
+    }
+    QTextStream in(&file);
+    in.setEncoding(QStringConverter::Utf8);
+    QStringList tips;
+    // The file holds eleven tips, one a line.
+    while (!in.atEnd() && tips.size() < 11) tips << in.readLine();
+    if (tips.isEmpty()) {
+        label_->setText(QString());
+        return;
+    }
+    label_->setText(tips.at(static_cast<int>(QRandomGenerator::global()->bounded(tips.size()))));
+}
+
+AboutWindow::AboutWindow() {
+    setWindowFlag(Qt::Window);
+    setObjectName(QStringLiteral("FormAbout"));
+    setWindowTitle(QStringLiteral(" MORVE"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    auto* title = new QLabel(QStringLiteral("MORVE - 2014"), this);
+    QFont f = title->font();
+    f.setBold(true);
+    f.setPointSizeF(f.pointSizeF() * 1.6);
+    title->setFont(f);
+    auto* version = new QLabel(QStringLiteral("Versão 3.0"), this);
+    auto* purpose = new QLabel(QStringLiteral("Ferramenta destinada à elaboração de projeto de estruturas de "
+                                              "concreto armado, com cálculo passo a passo. Ideal para o ensino "
+                                              "e para o projetista iniciante."),
+                               this);
+    purpose->setWordWrap(true);
+    purpose->setMinimumWidth(360);
+    auto* ok = new QPushButton(QStringLiteral("OK"), this);
+    ok->setObjectName(QStringLiteral("cmdOK"));
+    auto* layout = new QVBoxLayout(this);
+    for (QWidget* w : std::initializer_list<QWidget*>{title, version, purpose}) layout->addWidget(w);
+    auto* row = new QHBoxLayout();
+    row->addStretch(1);
+    row->addWidget(ok);
+    layout->addLayout(row);
+    connect(ok, &QPushButton::clicked, this, [this] { close(); });
+}
+
+}  // namespace morve

@@ -1,0 +1,57 @@
+// MORVE: design of reinforced-concrete elements, step by step.
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QIcon>
+#include <QTimer>
+
+#include <cstdio>
+#include <cstring>
+
+#include "gui/data_paths.h"
+#include "gui/main_window.h"
+#include "gui/morve_app.h"
+#include "gui/screenshots.h"
+
+namespace {
+
+const char* kUsage =
+    "uso: morve [--no-splash] [--screenshots PASTA] [--startup-time]\n";
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QElapsedTimer clock;
+    clock.start();
+    morve::AppOptions options;
+    QString screenshots;
+    bool startupTime = false;
+    for (int i = 1; i < argc; ++i) {
+        if (!std::strcmp(argv[i], "--no-splash")) options.splash = false;
+        else if (!std::strcmp(argv[i], "--startup-time")) startupTime = true;
+        else if (!std::strcmp(argv[i], "--screenshots") && i + 1 < argc) screenshots = QString::fromLocal8Bit(argv[++i]);
+        else if (!std::strcmp(argv[i], "--help") || !std::strcmp(argv[i], "-h")) {
+            std::fputs(kUsage, stdout);
+            return 0;
+        }
+    }
+    QApplication qapp(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("MORVE"));
+    QApplication::setApplicationVersion(QStringLiteral(MORVE_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("morve"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("morve"), QIcon(morve::helpFolder() + "/../morve.svg")));
+    if (!screenshots.isEmpty()) return morve::takeScreenshots(screenshots);
+
+    if (startupTime) options.splash = false;
+    morve::MorveApp app(options);
+    app.start();
+    if (startupTime) {
+        // Time from the start of the process to the menu painted.
+        QTimer::singleShot(0, [&] {
+            app.menu()->repaint();
+            std::printf("menu pintado em %lld ms\n", static_cast<long long>(clock.elapsed()));
+            QApplication::quit();
+        });
+    }
+    return QApplication::exec();
+}

@@ -1,0 +1,72 @@
+#pragma once
+// One module opened from the menu: its session (the FormState and the screens it
+// shows) and the windows built for its screens. Every command goes through press():
+// the windows hand their texts to the state, the module runs, the texts come back,
+// the screen effects are applied in order, pictures are drawn anew and the focus
+// goes where the module says.
+#include <QObject>
+
+#include <map>
+#include <memory>
+#include <string>
+
+#include "app/module.h"
+
+class QWidget;
+
+namespace morve {
+
+class ScreenWindow;
+
+// What a module window asks of the program around it.
+class Shell {
+public:
+    virtual ~Shell() = default;
+    virtual void showBackdrop(bool on) = 0;
+    virtual void returnToMenu() = 0;      // "Novo" and the close of the module
+    virtual void restartDefaults() = 0;   // "Início"
+    virtual void askExit() = 0;           // "Sair"
+    virtual void showModuleHelp(const std::string& page) = 0;
+    virtual void closeModuleHelp() = 0;
+    virtual void startReport(const std::string& key, QWidget* caller) = 0;
+    // The window the open report panel has disabled; nullptr when none is open.
+    virtual QWidget* reportCaller() const = 0;
+};
+
+class ModuleHost : public QObject {
+public:
+    ModuleHost(const Module& module, const StartDefaults& defaults, Shell& shell);
+    ~ModuleHost() override;
+
+    // Shows the main screen, centred.
+    void open();
+    // Closes the companions named by the module and the module itself, without a word.
+    void unloadAll();
+
+    ModuleSession& session() { return session_; }
+    ScreenWindow* window(const std::string& screen) const;
+    ScreenWindow* mainWindow() const { return window(session_.info().key); }
+
+    // A command of a screen: "Command1" on the main screen, "Form8.Command3" on a
+    // companion. Returns what the module said.
+    Outcome press(const std::string& screen, const std::string& command);
+    void toolbar(const std::string& screen, const std::string& key);
+
+private:
+    ScreenWindow* ensureWindow(const std::string& screen);
+    const ScreenDecl* declared(const std::string& screen) const;
+    void applyScreenEffects(const Outcome& outcome, ScreenWindow* caller);
+    void refresh(ScreenWindow* w);
+    void showScreen(const std::string& screen);
+    void dropWindow(const std::string& screen);
+    void companionClosed(const std::string& screen);
+    std::string helpPage() const;
+
+    const Module& module_;
+    Shell& shell_;
+    ModuleSession session_;
+    std::vector<ScreenDecl> screens_;
+    std::map<std::string, ScreenWindow*> windows_;
+};
+
+}  // namespace morve

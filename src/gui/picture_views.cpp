@@ -1,0 +1,76 @@
+#include "gui/picture_views.h"
+
+#include <QChart>
+#include <QChartView>
+#include <QLineSeries>
+#include <QPainter>
+#include <QScatterSeries>
+#include <QVBoxLayout>
+#include <QValueAxis>
+
+#include "render/drawing_painter.h"
+
+namespace morve {
+
+DrawingView::DrawingView(QSize size, QWidget* parent) : QWidget(parent) {
+    setMinimumSize(size.isEmpty() ? QSize(200, 200) : size);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setAutoFillBackground(false);
+}
+
+void DrawingView::setDrawing(Drawing drawing) {
+    drawing_ = std::move(drawing);
+    update();
+}
+
+void DrawingView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), Qt::white);
+    painter.setPen(QColor(160, 160, 160));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    paintDrawing(painter, drawing_, QRectF(rect()).adjusted(4, 4, -4, -4));
+}
+
+ChartBox::ChartBox(QSize size, QWidget* parent) : QWidget(parent), view_(new QChartView(this)) {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(view_);
+    view_->setRenderHint(QPainter::Antialiasing);
+    setMinimumSize(size.isEmpty() ? QSize(320, 260) : size);
+    setChart(Chart{});
+}
+
+void ChartBox::setChart(const Chart& data) {
+    auto* chart = new QChart();
+    chart->setTitle(QString::fromStdString(data.title));
+    chart->legend()->setVisible(data.series.size() > 1);
+    auto* x = new QValueAxis();
+    auto* y = new QValueAxis();
+    x->setTitleText(QString::fromStdString(data.xTitle));
+    y->setTitleText(QString::fromStdString(data.yTitle));
+    x->setRange(data.xMin, data.xMax);
+    y->setRange(data.yMin, data.yMax);
+    chart->addAxis(x, Qt::AlignBottom);
+    chart->addAxis(y, Qt::AlignLeft);
+    for (const ChartSeries& s : data.series) {
+        QXYSeries* series = nullptr;
+        if (s.scatter) {
+            auto* scatter = new QScatterSeries();
+            scatter->setMarkerSize(s.markerSize);
+            series = scatter;
+        } else {
+            series = new QLineSeries();
+        }
+        series->setName(QString::fromStdString(s.name));
+        series->setColor(QColor(s.colour.r, s.colour.g, s.colour.b));
+        for (const Point& p : s.points) series->append(p.x, p.y);
+        chart->addSeries(series);
+        series->attachAxis(x);
+        series->attachAxis(y);
+    }
+    QChart* old = view_->chart();
+    view_->setChart(chart);
+    delete old;
+}
+
+}  // namespace morve

@@ -1,0 +1,36 @@
+#pragma once
+// The picture boxes and charts of module screens: a Drawing painted by the shared
+// renderer, and a Chart shown as an XY scatter of Qt Charts.
+#include <QWidget>
+
+#include "draw/chart.h"
+#include "draw/drawing.h"
+
+class QChartView;
+
+namespace morve {
+
+class DrawingView : public QWidget {
+public:
+    DrawingView(QSize size, QWidget* parent = nullptr);
+    void setDrawing(Drawing drawing);
+    const Drawing& drawing() const { return drawing_; }
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+
+private:
+    Drawing drawing_;
+};
+
+class ChartBox : public QWidget {
+public:
+    ChartBox(QSize size, QWidget* parent = nullptr);
+    void setChart(const Chart& chart);
+    QChartView* view() const { return view_; }
+
+private:
+    QChartView* view_;
+};
+
+}  // namespace morve

@@ -1,0 +1,420 @@
+#include "gui/screen_window.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStyle>
+#include <QStyledItemDelegate>
+#include <QTableWidget>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include "gui/key_filter_guard.h"
+#include "gui/picture_views.h"
+
+namespace morve {
+
+namespace {
+
+QString q(const std::string& s) { return QString::fromStdString(s); }
+
+// The editor of a grid cell runs the grid's key filter.
+class FilteredCellDelegate : public QStyledItemDelegate {
+public:
+    FilteredCellDelegate(KeyFilter filter, QObject* parent) : QStyledItemDelegate(parent), filter_(filter) {}
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override {
+        QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
+        if (editor) KeyFilterGuard::install(editor, filter_);
+        return editor;
+    }
+
+private:
+    KeyFilter filter_;
+};
+
+QIcon toolbarIcon(const std::string& key, QStyle* style) {
+    if (key == "Novo") return style->standardIcon(QStyle::SP_FileIcon);
+    if (key == "Início") return style->standardIcon(QStyle::SP_BrowserReload);
+    if (key == "Abrir") return style->standardIcon(QStyle::SP_DialogOpenButton);
+    if (key == "Salvar") return style->standardIcon(QStyle::SP_DialogSaveButton);
+    if (key == "Imprimir")
+        return QIcon::fromTheme(QStringLiteral("document-print"),
+                                style->standardIcon(QStyle::SP_FileDialogDetailedView));
+    if (key == "Ajuda") return style->standardIcon(QStyle::SP_DialogHelpButton);
+    return style->standardIcon(QStyle::SP_DialogCloseButton);
+}
+
+int boxWidth(const QWidget* w, int characters) {
+    return w->fontMetrics().horizontalAdvance(QLatin1Char('0')) * (characters > 0 ? characters : 9) + 12;
+}
+
+}  // namespace
+
+const std::vector<ToolbarButton>& toolbarButtons() {
+    static const std::vector<ToolbarButton> buttons{
+        {"Novo", "Iniciar novo módulo"},       {"Início", "Reiniciar o programa"},
+        {"Abrir", "Ler dados de arquivo"},     {"Salvar", "Salvar dados em arquivo"},
+        {"Imprimir", "Imprimir relatório"},    {"Ajuda", "Exibe a ajuda para esta janela"},
+        {"Sair", "Sair do programa"},
+    };
+    return buttons;
+}
+
+ScreenWindow::ScreenWindow(const ScreenDecl& screen, QWidget* parent) : QWidget(parent), decl_(screen) {
+    setWindowFlag(Qt::Window);
+    setWindowTitle(q(decl_.title));
+    setObjectName(q(decl_.name));
+    auto* outer = new QVBoxLayout(this);
+
+    if (decl_.toolbar) {
+        auto* bar = new QToolBar(this);
+        bar->setObjectName(QStringLiteral("Toolbar1"));
+        bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+        bar->setIconSize(QSize(22, 22));
+        for (const ToolbarButton& b : toolbarButtons()) {
+            const std::string key = b.key;
+            QAction* a = bar->addAction(toolbarIcon(key, style()), q(key));
+            a->setToolTip(QString::fromUtf8(b.toolTip));
+            a->setObjectName(q(key));
+            connect(a, &QAction::triggered, this, [this, key] {
+                if (onToolbar) onToolbar(key);
+            });
+            toolbar_[key] = a;
+        }
+        outer->addWidget(bar);
+    }
+    if (!decl_.heading.empty()) {
+        auto* heading = new QLabel(q(decl_.heading), this);
+        heading->setObjectName(QStringLiteral("heading"));
+        QFont f = heading->font();
+        f.setBold(true);
+        f.setPointSizeF(f.pointSizeF() + 2);
+        heading->setFont(f);
+        heading->setAlignment(Qt::AlignCenter);
+        heading->setStyleSheet(QStringLiteral("color: #00307a; padding: 4px;"));
+        outer->addWidget(heading);
+    }
+
+    auto* frames = new QGridLayout();
+    frames->setSpacing(8);
+    outer->addLayout(frames);
+    std::map<std::string, QGridLayout*> frameGrids;
+    std::map<std::string, std::string> frameCaptions;
+    for (const FrameDecl& f : decl_.frames) {
+        QWidget* box = nullptr;
+        if (f.caption.empty()) {
+            auto* plain = new QFrame(this);
+            box = plain;
+        } else {
+            box = new QGroupBox(q(f.caption), this);
+        }
+        box->setObjectName(q(f.name));
+        auto* grid = new QGridLayout(box);
+        grid->setColumnStretch(1, 1);
+        frames->addWidget(box, f.row, f.column, f.rowSpan, f.columnSpan);
+        frames_[f.name] = box;
+        frameGrids[f.name] = grid;
+        frameCaptions[f.name] = f.caption;
+    }
+    // Controls outside any frame stand below the frames.
+    auto* loose = new QGridLayout();
+    outer->addLayout(loose);
+    for (const ControlDecl& c : decl_.controls) {
+        auto it = frameGrids.find(c.frame);
+        if (it != frameGrids.end())
+            addControl(it->second, c, frameCaptions[c.frame]);
+        else
+            addControl(loose, c, "");
+    }
+    outer->addStretch(1);
+}
+
+QString ScreenWindow::qualified(const std::string& control) const { return q(decl_.name + "." + control); }
+
+void ScreenWindow::addControl(QGridLayout* grid, const ControlDecl& c, const std::string& frameCaption) {
+    const int row = grid->rowCount();
+    QWidget* widget = nullptr;
+    std::vector<QWidget*> labels;
+    auto caption = [&](int column = 0) {
+        if (c.caption.empty() || c.caption == frameCaption) return;
+        auto* label = new QLabel(q(c.caption), this);
+        grid->addWidget(label, row, column);
+        labels.push_back(label);
+    };
+    auto unit = [&] {
+        if (c.unit.empty()) return;
+        auto* label = new QLabel(q(c.unit), this);
+        grid->addWidget(label, row, 2);
+        labels.push_back(label);
+    };
+
+    switch (c.kind) {
+        case ControlKind::TextBox:
+        case ControlKind::ResultBox: {
+            auto* edit = new QLineEdit(q(c.text), this);
+            edit->setMinimumWidth(boxWidth(edit, c.width));
+            edit->setMaximumWidth(boxWidth(edit, c.width > 0 ? c.width + 4 : 14));
+            if (c.kind == ControlKind::ResultBox) {
+                edit->setReadOnly(true);
+                edit->setFocusPolicy(Qt::ClickFocus);
+                edit->setStyleSheet(QStringLiteral("QLineEdit { background: #f3f3e8; }"));
+            } else {
+                KeyFilterGuard::install(edit, c.filter);
+            }
+            caption();
+            grid->addWidget(edit, row, 1, Qt::AlignLeft);
+            unit();
+            widget = edit;
+            break;
+        }
+        case ControlKind::Label: {
+            auto* label = new QLabel(q(c.caption), this);
+            label->setWordWrap(true);
+            grid->addWidget(label, row, 0, 1, 3);
+            widget = label;
+            break;
+        }
+        case ControlKind::List: {
+            auto* list = new QListWidget(this);
+            for (const auto& item : c.items) list->addItem(q(item));
+            const int rows = c.height > 0 ? c.height : std::min<int>(static_cast<int>(c.items.size()), 4);
+            const int rowHeight = list->sizeHintForRow(0) > 0 ? list->sizeHintForRow(0) : 18;
+            list->setFixedHeight(std::max(1, rows) * rowHeight + 2 * list->frameWidth() + 2);
+            int widest = 0;
+            for (const auto& item : c.items)
+                widest = std::max(widest, list->fontMetrics().horizontalAdvance(q(item)));
+            list->setMinimumWidth(std::min(widest + 36, 360));
+            const bool captioned = !c.caption.empty() && c.caption != frameCaption;
+            caption();
+            grid->addWidget(list, row, captioned ? 1 : 0, 1, captioned ? 2 : 3);
+            widget = list;
+            break;
+        }
+        case ControlKind::Option: {
+            auto* radio = new QRadioButton(q(c.caption), this);
+            QButtonGroup*& group = groups_[c.group];
+            if (!group) group = new QButtonGroup(this);
+            group->addButton(radio);
+            grid->addWidget(radio, row, 0, 1, 3);
+            widget = radio;
+            break;
+        }
+        case ControlKind::Check: {
+            auto* check = new QCheckBox(q(c.caption), this);
+            grid->addWidget(check, row, 0, 1, 3);
+            widget = check;
+            break;
+        }
+        case ControlKind::Grid: {
+            auto* table = new QTableWidget(this);
+            table->setColumnCount(static_cast<int>(c.grid.header.size()));
+            table->verticalHeader()->setVisible(false);
+            table->setItemDelegate(new FilteredCellDelegate(c.filter, table));
+            table->setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::DoubleClicked |
+                                   QAbstractItemView::EditKeyPressed | QAbstractItemView::SelectedClicked);
+            KeyFilterGuard::install(table, c.filter);
+            table->setMinimumHeight(160);
+            caption();
+            grid->addWidget(table, row + (labels.empty() ? 0 : 1), 0, 1, 3);
+            widget = table;
+            break;
+        }
+        case ControlKind::Picture: {
+            auto* view = new DrawingView(QSize(c.width, c.height), this);
+            grid->addWidget(view, row, 0, 1, 3, Qt::AlignCenter);
+            widget = view;
+            break;
+        }
+        case ControlKind::Chart: {
+            auto* chart = new ChartBox(QSize(c.width, c.height), this);
+            grid->addWidget(chart, row, 0, 1, 3);
+            widget = chart;
+            break;
+        }
+        case ControlKind::Command: {
+            auto* button = new QPushButton(q(c.caption), this);
+            const std::string name = c.name;
+            connect(button, &QPushButton::clicked, this, [this, name] {
+                if (onCommand) onCommand(name);
+            });
+            grid->addWidget(button, row, 0, 1, 3);
+            widget = button;
+            break;
+        }
+    }
+    widget->setObjectName(q(c.name));
+    if (!c.toolTip.empty()) widget->setToolTip(q(c.toolTip));
+    controls_[c.name] = widget;
+    companions_[c.name] = labels;
+}
+
+QWidget* ScreenWindow::control(const std::string& name) const {
+    if (auto it = controls_.find(name); it != controls_.end()) return it->second;
+    if (auto it = frames_.find(name); it != frames_.end()) return it->second;
+    return nullptr;
+}
+
+QAction* ScreenWindow::toolbarAction(const std::string& key) const {
+    auto it = toolbar_.find(key);
+    return it == toolbar_.end() ? nullptr : it->second;
+}
+
+void ScreenWindow::storeTo(FormState& state) const {
+    for (const ControlDecl& c : decl_.controls) {
+        const std::string name = decl_.name + "." + c.name;
+        QWidget* w = controls_.at(c.name);
+        switch (c.kind) {
+            case ControlKind::TextBox:
+            case ControlKind::ResultBox:
+                state.setText(name, static_cast<QLineEdit*>(w)->text().toStdString());
+                break;
+            case ControlKind::List: {
+                auto selected = static_cast<QListWidget*>(w)->selectedItems();
+                state.setText(name, selected.isEmpty() ? "" : selected.front()->text().toStdString());
+                break;
+            }
+            case ControlKind::Option:
+                state.setText(name, static_cast<QRadioButton*>(w)->isChecked() ? "True" : "");
+                break;
+            case ControlKind::Check:
+                state.setText(name, static_cast<QCheckBox*>(w)->isChecked() ? "True" : "");
+                break;
+            case ControlKind::Grid: {
+                auto* table = static_cast<QTableWidget*>(w);
+                GridRows& rows = state.grid(name);
+                if (rows.empty()) rows.push_back(c.grid.header);
+                rows.resize(static_cast<std::size_t>(table->rowCount()) + 1);
+                for (int r = 0; r < table->rowCount(); ++r) {
+                    auto& cells = rows[static_cast<std::size_t>(r) + 1];
+                    cells.resize(static_cast<std::size_t>(table->columnCount()));
+                    for (int col = 0; col < table->columnCount(); ++col) {
+                        QTableWidgetItem* item = table->item(r, col);
+                        cells[static_cast<std::size_t>(col)] = item ? item->text().toStdString() : "";
+                    }
+                }
+                break;
+            }
+            default: break;
+        }
+    }
+}
+
+void ScreenWindow::loadFrom(const FormState& state) {
+    for (const ControlDecl& c : decl_.controls) {
+        const std::string name = decl_.name + "." + c.name;
+        QWidget* w = controls_.at(c.name);
+        switch (c.kind) {
+            case ControlKind::TextBox:
+            case ControlKind::ResultBox: {
+                auto* edit = static_cast<QLineEdit*>(w);
+                const QString text = q(state.text(name));
+                if (edit->text() != text) edit->setText(text);
+                break;
+            }
+            case ControlKind::List: {
+                auto* list = static_cast<QListWidget*>(w);
+                const QString text = q(state.text(name));
+                QListWidgetItem* match = nullptr;
+                for (int i = 0; i < list->count(); ++i)
+                    if (list->item(i)->text() == text) match = list->item(i);
+                list->clearSelection();
+                if (match) {
+                    list->setCurrentItem(match);
+                    match->setSelected(true);
+                } else {
+                    list->setCurrentRow(-1);
+                }
+                break;
+            }
+            case ControlKind::Option: {
+                auto* radio = static_cast<QRadioButton*>(w);
+                QButtonGroup* group = radio->group();
+                const bool on = state.option(name);
+                if (group && !on && radio->isChecked()) {
+                    group->setExclusive(false);
+                    radio->setChecked(false);
+                    group->setExclusive(true);
+                } else {
+                    radio->setChecked(on);
+                }
+                break;
+            }
+            case ControlKind::Check: static_cast<QCheckBox*>(w)->setChecked(state.option(name)); break;
+            case ControlKind::Grid: {
+                auto* table = static_cast<QTableWidget*>(w);
+                const GridRows& rows = state.grid(name);
+                const std::vector<std::string>& header = rows.empty() ? c.grid.header : rows.front();
+                table->setColumnCount(static_cast<int>(header.size()));
+                QStringList labels;
+                for (const auto& h : header) labels << q(h);
+                table->setHorizontalHeaderLabels(labels);
+                table->setRowCount(rows.empty() ? 0 : static_cast<int>(rows.size()) - 1);
+                for (std::size_t r = 1; r < rows.size(); ++r) {
+                    for (int col = 0; col < table->columnCount(); ++col) {
+                        const std::string& text =
+                            static_cast<std::size_t>(col) < rows[r].size() ? rows[r][static_cast<std::size_t>(col)] : std::string();
+                        auto* item = new QTableWidgetItem(q(text));
+                        if (col == 0 && c.grid.firstColumnLocked) {
+                            item->setFlags(item->flags() & ~Qt::ItemIsEditable);
+                            item->setBackground(palette().window());
+                        }
+                        table->setItem(static_cast<int>(r) - 1, col, item);
+                    }
+                }
+                break;
+            }
+            default: break;
+        }
+        w->setEnabled(state.enabled(name));
+        const bool visible = state.visible(name);
+        w->setVisible(visible);
+        for (QWidget* label : companions_[c.name]) label->setVisible(visible);
+    }
+    for (const auto& [frame, widget] : frames_) widget->setVisible(state.visible(decl_.name + "." + frame));
+    for (const auto& [key, action] : toolbar_) action->setEnabled(state.enabled(decl_.name + ".Toolbar1." + key));
+}
+
+std::vector<std::string> ScreenWindow::pictures() const {
+    std::vector<std::string> out;
+    for (const auto& c : decl_.controls)
+        if (c.kind == ControlKind::Picture) out.push_back(c.name);
+    return out;
+}
+
+std::vector<std::string> ScreenWindow::charts() const {
+    std::vector<std::string> out;
+    for (const auto& c : decl_.controls)
+        if (c.kind == ControlKind::Chart) out.push_back(c.name);
+    return out;
+}
+
+void ScreenWindow::setDrawing(const std::string& picture, Drawing drawing) {
+    if (auto* view = dynamic_cast<DrawingView*>(control(picture))) view->setDrawing(std::move(drawing));
+}
+
+void ScreenWindow::setChart(const std::string& chart, const Chart& data) {
+    if (auto* box = dynamic_cast<ChartBox*>(control(chart))) box->setChart(data);
+}
+
+void ScreenWindow::closeQuietly() {
+    quiet_ = true;
+    close();
+}
+
+void ScreenWindow::closeEvent(QCloseEvent* event) {
+    event->accept();
+    if (!quiet_ && onClose) onClose();
+}
+
+}  // namespace morve

@@ -1,0 +1,112 @@
+// The key filters on real widgets: what a user typing into a box or a grid cell
+// actually gets.
+#include <QLineEdit>
+#include <QTableWidget>
+#include <QTest>
+
+#include "app/screen.h"
+#include "beams/form7.h"
+#include "gui/gui_prompter.h"
+#include "gui/screen_window.h"
+
+using namespace morve;
+
+class KeyFiltersTest : public QObject {
+    Q_OBJECT
+    int beeps = 0;
+
+    QLineEdit* box(ScreenWindow& w, const char* name) {
+        auto* edit = qobject_cast<QLineEdit*>(w.control(name));
+        edit->setFocus();
+        return edit;
+    }
+
+private slots:
+    void init() {
+        beeps = 0;
+        setBeepHandler([this] { ++beeps; });
+    }
+    void cleanup() { setBeepHandler(nullptr); }
+
+    void commaBecomesPointInPositiveNumberBox() {
+        ScreenWindow w(Form7::mainScreen());
+        QLineEdit* fck = box(w, "Text1");
+        fck->clear();
+        QTest::keyClicks(fck, "2,5");
+        QCOMPARE(fck->text(), QString("2.5"));
+        QCOMPARE(beeps, 0);
+        // Letters, the slash and blanks never reach the box, each with a beep.
+        QTest::keyClicks(fck, "a/ x");
+        QCOMPARE(fck->text(), QString("2.5"));
+        QCOMPARE(beeps, 4);
+        // A second point passes: the box reads as its longest number.
+        QTest::keyClicks(fck, ".3");
+        QCOMPARE(fck->text(), QString("2.5.3"));
+    }
+
+    void minusOnlyInSignedBoxes() {
+        ScreenWindow w(Form7::mainScreen());
+        QLineEdit* mk = box(w, "Text6");
+        QTest::keyClicks(mk, "-12,5");
+        QCOMPARE(mk->text(), QString("-12.5"));
+        QCOMPARE(beeps, 0);
+        QLineEdit* width = box(w, "Text3");
+        width->clear();
+        QTest::keyClicks(width, "-15");
+        QCOMPARE(width->text(), QString("15"));
+        QCOMPARE(beeps, 1);
+    }
+
+    void controlKeysAreSwallowedButDeleteAndArrowsWork() {
+        ScreenWindow w(Form7::mainScreen());
+        QLineEdit* b = box(w, "Text3");
+        b->setText("20");
+        b->end(false);
+        QTest::keyClick(b, Qt::Key_Backspace);
+        QCOMPARE(b->text(), QString("20"));
+        QTest::keyClick(b, Qt::Key_Return);
+        QTest::keyClick(b, Qt::Key_Escape);
+        QCOMPARE(beeps, 3);
+        QTest::keyClick(b, Qt::Key_Left);
+        QTest::keyClick(b, Qt::Key_Delete);
+        QCOMPARE(b->text(), QString("2"));
+        QCOMPARE(beeps, 3);
+    }
+
+    void resultBoxesTakeNoTyping() {
+        ScreenWindow w(Form7::mainScreen());
+        auto* as = qobject_cast<QLineEdit*>(w.control("Text7"));
+        QVERIFY(as->isReadOnly());
+    }
+
+    void digitGridCellsRefuseTheComma() {
+        ScreenBuilder s("FormT", " TESTE ");
+        GridDecl g;
+        g.header = {"Barra", "n"};
+        g.rows = 2;
+        g.filter = KeyFilter::Digit;
+        s.frame("Frame1", "Barras", 0, 0).grid("Grade1", g);
+        const ScreenDecl decl = s.build();
+        ScreenWindow w(decl);
+        FormState state("FormT", {decl});
+        w.loadFrom(state);
+        w.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&w));
+        auto* table = qobject_cast<QTableWidget*>(w.control("Grade1"));
+        QCOMPARE(table->rowCount(), 2);
+        QCOMPARE(table->horizontalHeaderItem(1)->text(), QString("n"));
+        // Column 0 numbers the rows and is locked.
+        QVERIFY(!(table->item(0, 0)->flags() & Qt::ItemIsEditable));
+        table->setFocus();
+        table->setCurrentCell(0, 1);
+        QTest::keyClicks(table, "3,");
+        QTest::keyClick(table, Qt::Key_Tab);
+        QCOMPARE(beeps, 1);
+        w.storeTo(state);
+        QCOMPARE(state.cell("Grade1", 1, 1), std::string("3"));
+        QCOMPARE(state.cell("Grade1", 1, 0), std::string("1"));
+    }
+};
+
+QTEST_MAIN(KeyFiltersTest)
+#include "key_filters_test.moc"
