@@ -22,7 +22,7 @@ std::string ductilityLine(const FormState& state, const BendingReportLayout& lay
     return "";
 }
 
-void writeBendingHead(ReportWriter& out, const FormState& s, const BendingReportLayout& l) {
+void writeMaterialLines(ReportWriter& out, const FormState& s, const BendingReportLayout& l) {
     out.write("Propriedades dos materiais:");
     out.write("Concreto: fck= ", s.text(l.fck), " MPa");
     out.write("Aço: fyk= ", s.text(l.fyk), " MPa", blanks(5), "Es= ", s.text(l.es), " GPa");
@@ -30,6 +30,10 @@ void writeBendingHead(ReportWriter& out, const FormState& s, const BendingReport
     out.write("Coeficientes parciais de segurança:");
     out.write("Gamac= ", s.text(l.gamac), blanks(5), "Gamas= ", s.text(l.gamas), blanks(5), "Gamaf= ",
               s.text(l.gamaf));
+}
+
+void writeBendingHead(ReportWriter& out, const FormState& s, const BendingReportLayout& l) {
+    writeMaterialLines(out, s, l);
     out.blank();
     out.write("Dimensões da seção transversal:");
     for (const auto& line : l.section)

@@ -22,6 +22,9 @@ struct BendingReportLayout {
     std::string as, asPrime;
 };
 
+// "Propriedades dos materiais:" to the line of Gamac, Gamas and Gamaf: the opening
+// that the section design modules of beams, columns and ties all print.
+void writeMaterialLines(ReportWriter& out, const FormState& state, const BendingReportLayout& layout);
 // From "Propriedades dos materiais:" to the line of the ductility criterion.
 void writeBendingHead(ReportWriter& out, const FormState& state, const BendingReportLayout& layout);
 // Blank, "SOLUÇÃO:", blank and the two areas.
