@@ -32,13 +32,17 @@ void writeMaterialLines(ReportWriter& out, const FormState& s, const BendingRepo
               s.text(l.gamaf));
 }
 
-void writeBendingHead(ReportWriter& out, const FormState& s, const BendingReportLayout& l) {
-    writeMaterialLines(out, s, l);
-    out.blank();
+void writeSectionDimensions(ReportWriter& out, const FormState& s, const BendingReportLayout& l) {
     out.write("Dimensões da seção transversal:");
     for (const auto& line : l.section)
         out.write(line.leftLabel, s.text(line.leftBox), " cm", tab(40), line.rightLabel,
                   s.text(line.rightBox), " cm");
+}
+
+void writeBendingHead(ReportWriter& out, const FormState& s, const BendingReportLayout& l) {
+    writeMaterialLines(out, s, l);
+    out.blank();
+    writeSectionDimensions(out, s, l);
     out.blank();
     out.write("Momento fletor de serviço Mk= ", s.text(l.moment), " kNm");
     out.blank();

@@ -116,10 +116,7 @@ void writeTieReport(const TieLayout& l, const FormState& s, ReportWriter& out) {
     const BendingReportLayout layout = reportLayout(l);
     writeMaterialLines(out, s, layout);
     out.blank();
-    out.write("Dimensões da seção transversal:");
-    for (const auto& line : layout.section)
-        out.write(line.leftLabel, s.text(line.leftBox), " cm", tab(40), line.rightLabel,
-                  s.text(line.rightBox), " cm");
+    writeSectionDimensions(out, s, layout);
     out.blank();
     out.write("Momento fletor de serviço Mk= ", s.text(l.mkBox), " kNm");
     out.write("Esforço normal de serviço Nk= ", s.text(l.nkBox), " kN");
