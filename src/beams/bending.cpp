@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "app/numbers.h"
 #include "basis/messages.h"
 
 namespace morve {
@@ -41,6 +42,32 @@ ReducedSteel designRectangle(double mu, double xlim, double delta, const StressB
     return doubleReinforcement(mu, mulim, xlim * block.lambda, xlim, delta, block, es, fyd);
 }
 
+TeeSteel designTee(double mu, double xlim, double eta, double r, double delta,
+                   const StressBlockValues& block, double es, double fyd) {
+    TeeSteel t;
+    const double y = xlim * block.lambda;  // depth of the block at the limit, over d
+    if (!(eta < y)) {
+        // The test is strict: a flange exactly as deep as the block is a rectangle.
+        t.branch = TeeBranch::Rectangle;
+        t.steel = designRectangle(mu, xlim, delta, block, es, fyd);
+        return t;
+    }
+    const double omegaLimit = (y - eta) * r + eta;
+    const double mulim = (y - eta) * r * (1 - (y + eta) / 2) + (1 - eta / 2) * eta;
+    if (mu > mulim) {
+        t.steel = doubleReinforcement(mu, mulim, omegaLimit, xlim, delta, block, es, fyd);
+        return t;
+    }
+    const double muf = (1 - eta / 2) * eta;  // the whole flange at sigmacd
+    if (muf < mu) {
+        const double m = (mu - muf) / r + muf;  // what the web takes, over bw d^2 sigmacd
+        t.steel.omega = (1 - r) * eta + (1 - std::sqrt(1 - 2 * m)) * r;
+    } else {
+        t.steel.omega = 1 - std::sqrt(1 - 2 * mu);
+    }
+    return t;
+}
+
 const std::string& bendingStopMessage(BendingStop stop) {
     static const std::string none;
     if (stop == BendingStop::Domain2) return msg::kDomain2;
@@ -58,12 +85,71 @@ void checkBeamMaterials(CheckSequence& checks, const FormState& state, const Bea
     checkCodeModulus(checks, state.number(boxes.es), boxes.es);
 }
 
+void addMaterialFrames(ScreenBuilder& s, const std::string& esBox) {
+    s.frame("Frame1", "Materiais", 0, 0)
+        .box("Text1", "fck(MPa)=", "20")
+        .box("Text2", "fyk(MPa)=", "500")
+        .box(esBox, "Es(GPa)=", "200");
+    s.frame("Frame2", "Coeficientes parciais", 1, 0)
+        .box("Text13", "Gamac=", "1.4")
+        .box("Text14", "Gamas=", "1.15")
+        .box("Text15", "Gamaf=", "1.4");
+}
+
+void addCriterionFrames(ScreenBuilder& s) {
+    s.frame("Frame5", "Classe de agressividade ambiental", 2, 0)
+        .list("List6", "Classe de agressividade ambiental", aggressivenessItems());
+    s.frame("Frame6", "Ductilidade", 2, 1)
+        .list("List2", "xlim/d = ", ductilityItems(), ductilityItems().front())
+        .tip("Critério de ductilidade. Consulte a Ajuda.");
+    s.frame("Frame7", "Coeficiente de redistribuição", 2, 2)
+        .list("List3", "Beta=", redistributionItems(), redistributionItems().front());
+}
+
+DesignBasis designBasis(CheckSequence& checks, const FormState& state, double fck, double fyk,
+                        double es, double gamac, double gamas, double gamaf, double mk) {
+    DesignBasis b;
+    const double beta = state.number("List3");
+    const auto criterion = ductilityCriterion(state.text("List2")).value_or(DuctilityCriterion::CEB90);
+    b.xlim = DuctilityLimit(criterion, beta, fck, fyk, gamas, es);
+    checkBalancedBeta(checks, criterion, beta, "List2");
+    b.block = StressBlock(fck);
+    b.md = gamaf * mk * 100;
+    b.fyd = fyk / 10 / gamas;
+    b.sigmacd = b.block.alphac * (fck / 10 / gamac);
+    return b;
+}
+
 bool applyMinimumAndRate(CheckSequence& checks, double& as, double asPrime, double ac, double fck,
                          double fyd) {
     double asMin = MinimumSteelRatio(fck, fyd * 10) * ac;
     if (as < asMin) as = asMin;
     checks.warnIf((as + asPrime) / ac > 0.04, msg::kSteelRateAbove4);
     return !checks.stopped();
+}
+
+Outcome finishDesign(CheckSequence& checks, FormState& s, const ReducedSteel& steel, double unit,
+                     double ac, double fck, double fyd, const DesignOutput& out) {
+    checks.warnIf(steel.stop != BendingStop::None, bendingStopMessage(steel.stop), out.stopFocus);
+    if (checks.stopped()) return checks.outcome();
+    double as = steel.omega * unit;
+    const double asPrime = steel.omegaPrime * unit;
+    if (!applyMinimumAndRate(checks, as, asPrime, ac, fck, fyd)) return checks.outcome();
+    s.setText(out.as, formatResult(as));
+    s.setText(out.asPrime, formatResult(asPrime));
+    return Outcome::done()
+        .then(EffectKind::EnableControl, out.detailButton)
+        .then(EffectKind::EnableControl, printButton(out.module));
+}
+
+Outcome openDetailing(FormState& s, const DesignOutput& out) {
+    s.setText(out.detailScreen + ".Text1", s.text(out.as));
+    s.setText(out.detailScreen + ".Text2", s.text(out.asPrime));
+    return Outcome::done()
+        .then(EffectKind::HideScreen, "FormAjuda")
+        .then(EffectKind::ShowScreen, "Form0b")
+        .then(EffectKind::HideScreen, out.module)
+        .then(EffectKind::ShowScreen, out.detailScreen);
 }
 
 }  // namespace morve

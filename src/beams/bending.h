@@ -5,6 +5,7 @@
 #include <string>
 
 #include "app/form_state.h"
+#include "app/screen.h"
 #include "basis/checks.h"
 #include "basis/materials.h"
 
@@ -35,6 +36,26 @@ ReducedSteel doubleReinforcement(double mu, double mulim, double omegaLimit, dou
 ReducedSteel designRectangle(double mu, double xlim, double delta, const StressBlockValues& block,
                              double es, double fyd);
 
+// Where the compression block of a T section lies at the ductility limit.
+enum class TeeBranch {
+    Web,        // the block at the limit reaches below the flange
+    Rectangle,  // it stays in the flange: a rectangle of width bf
+};
+
+// A T section, in the same reduced terms with bf as the reference width:
+// eta = hf / d, r = bw / bf. Below the limit the block may still sit in the
+// flange (omega = 1 - sqrt(1 - 2 mu)) or enter the web, where the overhangs of
+// the flange carry their share and the web takes the rest.
+struct TeeSteel {
+    TeeBranch branch = TeeBranch::Web;
+    ReducedSteel steel;
+};
+TeeSteel designTee(double mu, double xlim, double eta, double r, double delta,
+                   const StressBlockValues& block, double es, double fyd);
+
+// Said by the T modules when the flange is not wider than the web.
+inline const std::string kFlangeWiderThanWeb = "A largura da mesa deve ser maior que a largura da nervura.";
+
 // The message of a stop, "" for none.
 const std::string& bendingStopMessage(BendingStop stop);
 
@@ -45,6 +66,40 @@ struct BeamMaterialBoxes {
     std::string fck, classList, fyk, es;
 };
 void checkBeamMaterials(CheckSequence& checks, const FormState& state, const BeamMaterialBoxes& boxes);
+
+// The frames of a design screen around its section: materials (fck Text1, fyk
+// Text2, Es in esBox) and coefficients (Text13 to Text15) on the left, the class,
+// the ductility criterion and Beta in the row under them.
+void addMaterialFrames(ScreenBuilder& s, const std::string& esBox);
+void addCriterionFrames(ScreenBuilder& s);
+
+// What a bending design works from once its boxes have passed their checks.
+struct DesignBasis {
+    double xlim = 0;
+    StressBlockValues block{};
+    double md = 0;  // kNcm
+    double fyd = 0, sigmacd = 0;  // kN/cm2
+};
+// xlim by the criterion of List2 and the Beta of List3 (the balanced limit allows
+// no redistribution: that stops the run), the block, Md = Gamaf Mk.
+DesignBasis designBasis(CheckSequence& checks, const FormState& state, double fck, double fyk,
+                        double es, double gamac, double gamas, double gamaf, double mk);
+
+// The boxes where a design writes its areas and the screens of its detailing.
+struct DesignOutput {
+    std::string module;            // "Form7"
+    std::string as, asPrime;       // result boxes
+    std::string stopFocus;         // the height box, where the two limits send the focus
+    std::string detailButton;      // "Form7.Command3"
+    std::string detailScreen;      // "Form8"
+};
+// From the reduced steel to the result boxes: the stops of double reinforcement,
+// the areas over unit = width d sigmacd / fyd, the minimum on ac and the 4% rate.
+Outcome finishDesign(CheckSequence& checks, FormState& state, const ReducedSteel& steel, double unit,
+                     double ac, double fck, double fyd, const DesignOutput& out);
+// "Detalhamento": the two areas go over as they stand, and the detailing screen
+// takes the place of the design.
+Outcome openDetailing(FormState& state, const DesignOutput& out);
 
 // The minimum on the tension steel (over the concrete area ac) and the 4% limit
 // of the total rate. Returns false when the rate stops the run (message given).

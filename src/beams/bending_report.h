@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "app/form_state.h"
+#include "draw/drawing.h"
 #include "reports/report_writer.h"
 
 namespace morve {
@@ -22,8 +23,8 @@ struct BendingReportLayout {
     std::string as, asPrime;
 };
 
-// "Propriedades dos materiais:" to the line of Gamac, Gamas and Gamaf: the opening
-// that the section design modules of beams, columns and ties all print.
+// "Propriedades dos materiais:" to the line of Gamac, Gamas and Gamaf and a blank:
+// the opening that the section design modules of beams, columns and ties all print.
 void writeMaterialLines(ReportWriter& out, const FormState& state, const BendingReportLayout& layout);
 // "Dimensões da seção transversal:" and the lines of the section, two values a line.
 void writeSectionDimensions(ReportWriter& out, const FormState& state, const BendingReportLayout& layout);
@@ -31,6 +32,31 @@ void writeSectionDimensions(ReportWriter& out, const FormState& state, const Ben
 void writeBendingHead(ReportWriter& out, const FormState& state, const BendingReportLayout& layout);
 // Blank, "SOLUÇÃO:", blank and the two areas.
 void writeBendingSolution(ReportWriter& out, const FormState& state, const BendingReportLayout& layout);
+
+struct DetailingSetup;
+
+// The height of the section's drawing on the second page, in lines.
+inline constexpr int kSectionPictureLines = 16;
+
+// The two fixed pages of a finished detailing: the design down to the ductility
+// criterion with the restrictions of the detailing, then the final solution and
+// the drawing of the section.
+void writeDetailingReport(ReportWriter& out, const FormState& state, const BendingReportLayout& layout,
+                          const DetailingSetup& setup, Drawing section);
+
+// The report of a layered verification, rectangle or T.
+struct LabelledBox {
+    std::string label, box;
+};
+struct VerificationReportLayout {
+    std::string sectionHeading;         // "" when the section is one line
+    std::vector<LabelledBox> section;   // values in cm
+    std::string count;                  // the box of n
+    std::string grid;                   // the layer grid
+    std::string result;                 // the ultimate moment
+};
+void writeVerificationReport(ReportWriter& out, const FormState& state,
+                             const VerificationReportLayout& layout);
 
 // xlim/d as the report prints it: the balanced limit with three decimals, the
 // others as the arithmetic gives them.

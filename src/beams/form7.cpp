@@ -8,6 +8,7 @@
 #include "basis/start_values.h"
 #include "beams/bending.h"
 #include "beams/bending_report.h"
+#include "beams/detailing.h"
 #include "reports/report_writer.h"
 
 namespace morve {
@@ -25,6 +26,11 @@ const BendingReportLayout& reportLayout() {
     return layout;
 }
 
+const DesignOutput& output() {
+    static const DesignOutput out{"Form7", "Text7", "Text8", "Text4", "Form7.Command3", "Form8"};
+    return out;
+}
+
 }  // namespace
 
 ModuleInfo Form7::info() const {
@@ -37,14 +43,7 @@ ModuleInfo Form7::info() const {
 
 ScreenDecl Form7::mainScreen() {
     ScreenBuilder s("Form7", " DIMENSIONAMENTO À FLEXÃO SIMPLES DE SEÇÕES RETANGULARES ");
-    s.frame("Frame1", "Materiais", 0, 0)
-        .box("Text1", "fck(MPa)=", "20")
-        .box("Text2", "fyk(MPa)=", "500")
-        .box("Text9", "Es(GPa)=", "200");
-    s.frame("Frame2", "Coeficientes parciais", 1, 0)
-        .box("Text13", "Gamac=", "1.4")
-        .box("Text14", "Gamas=", "1.15")
-        .box("Text15", "Gamaf=", "1.4");
+    addMaterialFrames(s, "Text9");
     s.frame("Frame3", "Seção transversal", 0, 1, 2, 1)
         .box("Text3", "b(cm)=", "20")
         .box("Text4", "h(cm)=", "40")
@@ -52,13 +51,7 @@ ScreenDecl Form7::mainScreen() {
         .box("Text10", "d'(cm)=", "")
         .box("Text6", "Mk(kNm)=", "", "", KeyFilter::SignedNumber);
     s.frame("Frame4", "", 0, 2, 2, 1).picture("Picture1", 220, 260);
-    s.frame("Frame5", "Classe de agressividade ambiental", 2, 0)
-        .list("List6", "Classe de agressividade ambiental", aggressivenessItems());
-    s.frame("Frame6", "Ductilidade", 2, 1)
-        .list("List2", "xlim/d = ", ductilityItems(), ductilityItems().front())
-        .tip("Critério de ductilidade. Consulte a Ajuda.");
-    s.frame("Frame7", "Coeficiente de redistribuição", 2, 2)
-        .list("List3", "Beta=", redistributionItems(), redistributionItems().front());
+    addCriterionFrames(s);
     s.frame("Frame8", "RESPOSTA", 3, 0, 1, 2)
         .result("Text7", "Armadura tracionada: As(cm2) =")
         .result("Text8", "Armadura comprimida: A's(cm2) =");
@@ -69,7 +62,9 @@ ScreenDecl Form7::mainScreen() {
     return s.build();
 }
 
-std::vector<ScreenDecl> Form7::screens() const { return {mainScreen()}; }
+std::vector<ScreenDecl> Form7::screens() const {
+    return {mainScreen(), detailingScreen(form8Setup()), detailingResultScreen(form8Setup())};
+}
 
 void Form7::load(FormState& state, const StartDefaults& defaults) const {
     loadMaterialDefaults(state, defaults, {"Text1", "Text2", "Text9", 3});
@@ -78,6 +73,8 @@ void Form7::load(FormState& state, const StartDefaults& defaults) const {
 Outcome Form7::press(const std::string& command, FormState& state, Prompter& prompter) const {
     if (command == "Command1" || command == "Form7.Command1") return calculate(state, prompter);
     if (command == "Command3" || command == "Form7.Command3") return detail(state);
+    if (isDetailingCommand(form8Setup(), command))
+        return pressDetailing(form8Setup(), command, state, prompter);
     return Outcome::stop();
 }
 
@@ -107,52 +104,31 @@ Outcome Form7::calculate(FormState& s, Prompter& prompter) const {
     checkPartialCoefficients(checks, {{gamac, "Text13"}, {gamas, "Text14"}, {gamaf, "Text15"}});
     if (checks.stopped()) return checks.outcome();
 
-    const double beta = s.number("List3");
-    const auto criterion = ductilityCriterion(s.text("List2")).value_or(DuctilityCriterion::CEB90);
-    const double xlim = DuctilityLimit(criterion, beta, fck, fyk, gamas, es);
-    checkBalancedBeta(checks, criterion, beta, "List2");
+    const DesignBasis basis = designBasis(checks, s, fck, fyk, es, gamac, gamas, gamaf, mk);
     if (checks.stopped()) return checks.outcome();
-
-    const StressBlockValues block = StressBlock(fck);
-    const double md = gamaf * mk * 100;
-    const double fcd = fck / 10 / gamac, fyd = fyk / 10 / gamas;
-    const double sigmacd = block.alphac * fcd;
+    const double xlim = basis.xlim, md = basis.md, fyd = basis.fyd, sigmacd = basis.sigmacd;
+    const StressBlockValues& block = basis.block;
     const double mu = md / (b * d * d * sigmacd);
 
     ReducedSteel steel = designRectangle(mu, xlim, dPrime / d, block, es * 100, fyd);
-    checks.warnIf(steel.stop != BendingStop::None, bendingStopMessage(steel.stop), "Text4");
-    if (checks.stopped()) return checks.outcome();
-
-    const double unit = b * d * sigmacd / fyd;
-    double as = steel.omega * unit;
-    const double asPrime = steel.omegaPrime * unit;
-    if (!applyMinimumAndRate(checks, as, asPrime, b * h, fck, fyd)) return checks.outcome();
-
-    s.setText("Text7", formatResult(as));
-    s.setText("Text8", formatResult(asPrime));
-    return Outcome::done()
-        .then(EffectKind::EnableControl, "Form7.Command3")
-        .then(EffectKind::EnableControl, printButton("Form7"));
+    return finishDesign(checks, s, steel, b * d * sigmacd / fyd, b * h, fck, fyd, output());
 }
 
-Outcome Form7::detail(FormState& s) {
-    s.setText("Form8.Text1", s.text("Form7.Text7"));
-    s.setText("Form8.Text2", s.text("Form7.Text8"));
-    return Outcome::done()
-        .then(EffectKind::HideScreen, "FormAjuda")
-        .then(EffectKind::ShowScreen, "Form0b")
-        .then(EffectKind::HideScreen, "Form7")
-        .then(EffectKind::ShowScreen, "Form8");
-}
+Outcome Form7::detail(FormState& s) { return openDetailing(s, output()); }
 
 void Form7::report(const std::string& key, const FormState& state, ReportWriter& out) const {
+    if (key == "Form8b") {
+        writeDetailingReport(out, state, reportLayout(), form8Setup(), drawing("Form8b.Picture1", state));
+        return;
+    }
     if (key != "Form7") return;
     writeBendingHead(out, state, reportLayout());
     writeBendingSolution(out, state, reportLayout());
 }
 
-Drawing Form7::drawing(const std::string& picture, const FormState&) const {
+Drawing Form7::drawing(const std::string& picture, const FormState& state) const {
     if (picture == "Form7.Picture1" || picture == "Picture1") return rectangularSectionSketch();
+    if (picture == "Form8b.Picture1") return detailingDrawing(form8Setup(), state);
     return {};
 }
 

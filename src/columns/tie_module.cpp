@@ -115,7 +115,6 @@ const std::string& tieStopMessage(TieStop stop) {
 void writeTieReport(const TieLayout& l, const FormState& s, ReportWriter& out) {
     const BendingReportLayout layout = reportLayout(l);
     writeMaterialLines(out, s, layout);
-    out.blank();
     writeSectionDimensions(out, s, layout);
     out.blank();
     out.write("Momento fletor de serviço Mk= ", s.text(l.mkBox), " kNm");
