@@ -3,6 +3,7 @@
 #include "app/numbers.h"
 #include "basis/checks.h"
 #include "basis/messages.h"
+#include "beams/bending.h"
 #include "beams/bending_report.h"
 #include "basis/start_values.h"
 #include "beams/form7.h"
@@ -24,14 +25,7 @@ BendingReportLayout reportLayout(const TieLayout& l) {
 
 ScreenDecl tieScreen(const TieLayout& l) {
     ScreenBuilder s(l.key, l.heading);
-    s.frame("Frame1", "Materiais", 0, 0)
-        .box("Text1", "fck(MPa)=", "20")
-        .box("Text2", "fyk(MPa)=", "500")
-        .box("Text3", "Es(GPa)=", "200");
-    s.frame("Frame2", "Coeficientes parciais", 1, 0)
-        .box("Text13", "Gamac=", "1.4")
-        .box("Text14", "Gamas=", "1.15")
-        .box("Text15", "Gamaf=", "1.4");
+    addMaterialFrames(s, "Text3");  // the boxes and defaults of the beam designs
     s.frame("Frame3", "Seção transversal", 0, 1, 2, 1)
         .box("Text4", "b(cm)=", "20")
         .box("Text5", "h(cm)=", "40")
