@@ -45,13 +45,21 @@ void writeMaterials(ReportWriter& out, const FormState& s, const std::string& fc
 
 }  // namespace
 
-void writeBendingHead(ReportWriter& out, const FormState& s, const BendingReportLayout& l) {
+void writeMaterialLines(ReportWriter& out, const FormState& s, const BendingReportLayout& l) {
     writeMaterials(out, s, l.fck, l.fyk, l.es,
                    {{"Gamac= ", l.gamac}, {"Gamas= ", l.gamas}, {"Gamaf= ", l.gamaf}});
+}
+
+void writeSectionDimensions(ReportWriter& out, const FormState& s, const BendingReportLayout& l) {
     out.write("Dimensões da seção transversal:");
     for (const auto& line : l.section)
         out.write(line.leftLabel, s.text(line.leftBox), " cm", tab(40), line.rightLabel,
                   s.text(line.rightBox), " cm");
+}
+
+void writeBendingHead(ReportWriter& out, const FormState& s, const BendingReportLayout& l) {
+    writeMaterialLines(out, s, l);
+    writeSectionDimensions(out, s, l);
     out.blank();
     out.write("Momento fletor de serviço Mk= ", s.text(l.moment), " kNm");
     out.blank();

@@ -23,6 +23,11 @@ struct BendingReportLayout {
     std::string as, asPrime;
 };
 
+// "Propriedades dos materiais:" to the line of Gamac, Gamas and Gamaf and a blank:
+// the opening that the section design modules of beams, columns and ties all print.
+void writeMaterialLines(ReportWriter& out, const FormState& state, const BendingReportLayout& layout);
+// "Dimensões da seção transversal:" and the lines of the section, two values a line.
+void writeSectionDimensions(ReportWriter& out, const FormState& state, const BendingReportLayout& layout);
 // From "Propriedades dos materiais:" to the line of the ductility criterion.
 void writeBendingHead(ReportWriter& out, const FormState& state, const BendingReportLayout& layout);
 // Blank, "SOLUÇÃO:", blank and the two areas.
