@@ -133,7 +133,9 @@ TEST(ColumnChecks, ValidCasesRunToTheEndAndEnableWhatTheyMust) {
         const bool design = key == "Form12" || key == "Form12d" || key == "Form14" || key == "Form14c";
         // Design enables the report; verification only the diagram, which enables it.
         EXPECT_EQ(r.session->state().enabled(morve::printButton(key)), design) << key;
-        if (!design) EXPECT_TRUE(r.session->state().enabled(key + ".Command6")) << key;
+        if (!design) {
+            EXPECT_TRUE(r.session->state().enabled(key + ".Command6")) << key;
+        }
     }
 }
 
@@ -221,8 +223,10 @@ TEST(ColumnReports, EveryKeyPrintsItsBoxes) {
         for (const auto& want : e.lines)
             EXPECT_TRUE(std::any_of(lines.begin(), lines.end(), [&](const std::string& l) { return l.rfind(want, 0) == 0; }))
                 << e.key << ": " << want;
-        if (e.key == "Form14" || e.key == "Form15")
-            EXPECT_TRUE(std::none_of(lines.begin(), lines.end(), [](const std::string& l) { return l.rfind("Camada", 0) == 0; }));
+        if (e.key == "Form14" || e.key == "Form15") {
+            EXPECT_TRUE(std::none_of(lines.begin(), lines.end(),
+                                     [](const std::string& l) { return l.rfind("Camada", 0) == 0; }));
+        }
     }
 }
 
