@@ -498,9 +498,9 @@ Drawing detailingDrawing(const DetailingSetup& s, const FormState& state) {
     g.text({xr + 312, (y0 + yb) / 2}, "h = " + state.text(s.height) + " cm", 9, TextAlign::Left);
     const std::string webName = sec.bf > sec.b ? "bw = " : "b = ";
     g.dimension({x0 + webL * scale, yb + 260}, {x0 + webR * scale, yb + 260},
-                webName + state.text(s.width) + " cm", 0, 52);
+                webName + state.text(s.width) + " cm", 0, 140);
     if (sec.bf > sec.b)
-        g.dimension({x0, y0 - 260}, {xr, y0 - 260}, "bf = " + state.text(s.flangeWidth) + " cm", 0, -52);
+        g.dimension({x0, y0 - 260}, {xr, y0 - 260}, "bf = " + state.text(s.flangeWidth) + " cm", 0, -140);
     return g;
 }
 

@@ -33,6 +33,8 @@ enum class TextAlign { Left, Centre, Right };
 struct Line { Point from, to; };
 struct Polyline { std::vector<Point> points; bool closed = false; bool filled = false; };
 struct Circle { Point centre; double radius = 0; bool filled = false; };
+// A text whose point is its left end, centre or right end by the alignment, at the
+// middle of its height.
 struct Label { Point at; std::string text; double size = 9; TextAlign align = TextAlign::Left; };
 
 struct Shape {
