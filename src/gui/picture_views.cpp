@@ -8,9 +8,33 @@
 #include <QVBoxLayout>
 #include <QValueAxis>
 
+#include <cmath>
+#include <tuple>
+
 #include "render/drawing_painter.h"
 
 namespace morve {
+
+namespace {
+
+// Ticks at round values (1, 2 or 5 times a power of ten, about five of them,
+// counted from zero) over the module's own range, so the labels read as numbers
+// a user would write rather than fractions of the range.
+void roundTicks(QValueAxis* axis, double low, double high) {
+    const double span = high - low;
+    if (!(span > 0) || !std::isfinite(span)) return;
+    const double rough = span / 5;
+    const double power = std::pow(10.0, std::floor(std::log10(rough)));
+    double step = power;
+    for (double m : {2.0, 5.0, 10.0})
+        if (rough > step * 1.5) step = power * m;
+    axis->setTickType(QValueAxis::TicksDynamic);
+    axis->setTickAnchor(0);
+    axis->setTickInterval(step);
+    axis->setLabelFormat(QStringLiteral("%g"));
+}
+
+}  // namespace
 
 DrawingView::DrawingView(QSize size, QWidget* parent) : QWidget(parent) {
     setMinimumSize(size.isEmpty() ? QSize(200, 200) : size);
@@ -48,8 +72,10 @@ void ChartBox::setChart(const Chart& data) {
     auto* y = new QValueAxis();
     x->setTitleText(QString::fromStdString(data.xTitle));
     y->setTitleText(QString::fromStdString(data.yTitle));
-    x->setRange(data.xMin, data.xMax);
-    y->setRange(data.yMin, data.yMax);
+    for (auto [axis, low, high] : {std::tuple{x, data.xMin, data.xMax}, std::tuple{y, data.yMin, data.yMax}}) {
+        axis->setRange(low, high);
+        roundTicks(axis, low, high);
+    }
     chart->addAxis(x, Qt::AlignBottom);
     chart->addAxis(y, Qt::AlignLeft);
     for (const ChartSeries& s : data.series) {

@@ -55,8 +55,24 @@ QIcon toolbarIcon(const std::string& key, QStyle* style) {
     return style->standardIcon(QStyle::SP_DialogCloseButton);
 }
 
+// The columns of a frame: caption, box, unit, and the spare room on the right.
+// Controls that take the whole width span up to and including the spare column.
+constexpr int kSpareColumn = 3;
+constexpr int kWholeWidth = kSpareColumn + 1;
+
 int boxWidth(const QWidget* w, int characters) {
     return w->fontMetrics().horizontalAdvance(QLatin1Char('0')) * (characters > 0 ? characters : 9) + 12;
+}
+
+constexpr int kGridMinimumHeight = 160;
+constexpr int kGridRowsShown = 10;  // more rows than this scroll
+
+// A short table shows all its rows without a scroll bar; a long one scrolls.
+void fitGridHeight(QTableWidget* table) {
+    const int rows = std::min(table->rowCount(), kGridRowsShown);
+    const int rowHeight = table->verticalHeader()->defaultSectionSize();
+    const int needed = table->horizontalHeader()->sizeHint().height() + rows * rowHeight + 2 * table->frameWidth() + 2;
+    table->setMinimumHeight(std::max(kGridMinimumHeight, needed));
 }
 
 }  // namespace
@@ -120,8 +136,10 @@ ScreenWindow::ScreenWindow(const ScreenDecl& screen, QWidget* parent) : QWidget(
             box = new QGroupBox(q(f.caption), this);
         }
         box->setObjectName(q(f.name));
+        // Caption, box and unit stand close together; what room is left goes to an
+        // empty fourth column, so a unit never drifts away from its box.
         auto* grid = new QGridLayout(box);
-        grid->setColumnStretch(1, 1);
+        grid->setColumnStretch(kSpareColumn, 1);
         frames->addWidget(box, f.row, f.column, f.rowSpan, f.columnSpan);
         frames_[f.name] = box;
         frameGrids[f.name] = grid;
@@ -181,7 +199,7 @@ void ScreenWindow::addControl(QGridLayout* grid, const ControlDecl& c, const std
         case ControlKind::Label: {
             auto* label = new QLabel(q(c.caption), this);
             label->setWordWrap(true);
-            grid->addWidget(label, row, 0, 1, 3);
+            grid->addWidget(label, row, 0, 1, kWholeWidth);
             widget = label;
             break;
         }
@@ -197,7 +215,7 @@ void ScreenWindow::addControl(QGridLayout* grid, const ControlDecl& c, const std
             list->setMinimumWidth(std::min(widest + 36, 360));
             const bool captioned = !c.caption.empty() && c.caption != frameCaption;
             caption();
-            grid->addWidget(list, row, captioned ? 1 : 0, 1, captioned ? 2 : 3);
+            grid->addWidget(list, row, captioned ? 1 : 0, 1, captioned ? kWholeWidth - 1 : kWholeWidth);
             widget = list;
             break;
         }
@@ -206,13 +224,13 @@ void ScreenWindow::addControl(QGridLayout* grid, const ControlDecl& c, const std
             QButtonGroup*& group = groups_[c.group];
             if (!group) group = new QButtonGroup(this);
             group->addButton(radio);
-            grid->addWidget(radio, row, 0, 1, 3);
+            grid->addWidget(radio, row, 0, 1, kWholeWidth);
             widget = radio;
             break;
         }
         case ControlKind::Check: {
             auto* check = new QCheckBox(q(c.caption), this);
-            grid->addWidget(check, row, 0, 1, 3);
+            grid->addWidget(check, row, 0, 1, kWholeWidth);
             widget = check;
             break;
         }
@@ -224,21 +242,22 @@ void ScreenWindow::addControl(QGridLayout* grid, const ControlDecl& c, const std
             table->setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::DoubleClicked |
                                    QAbstractItemView::EditKeyPressed | QAbstractItemView::SelectedClicked);
             KeyFilterGuard::install(table, c.filter);
-            table->setMinimumHeight(160);
+            table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+            table->setMinimumHeight(kGridMinimumHeight);
             caption();
-            grid->addWidget(table, row + (labels.empty() ? 0 : 1), 0, 1, 3);
+            grid->addWidget(table, row + (labels.empty() ? 0 : 1), 0, 1, kWholeWidth);
             widget = table;
             break;
         }
         case ControlKind::Picture: {
             auto* view = new DrawingView(QSize(c.width, c.height), this);
-            grid->addWidget(view, row, 0, 1, 3, Qt::AlignCenter);
+            grid->addWidget(view, row, 0, 1, kWholeWidth, Qt::AlignCenter);
             widget = view;
             break;
         }
         case ControlKind::Chart: {
             auto* chart = new ChartBox(QSize(c.width, c.height), this);
-            grid->addWidget(chart, row, 0, 1, 3);
+            grid->addWidget(chart, row, 0, 1, kWholeWidth);
             widget = chart;
             break;
         }
@@ -248,7 +267,7 @@ void ScreenWindow::addControl(QGridLayout* grid, const ControlDecl& c, const std
             connect(button, &QPushButton::clicked, this, [this, name] {
                 if (onCommand) onCommand(name);
             });
-            grid->addWidget(button, row, 0, 1, 3);
+            grid->addWidget(button, row, 0, 1, kWholeWidth);
             widget = button;
             break;
         }
@@ -360,6 +379,7 @@ void ScreenWindow::loadFrom(const FormState& state) {
                 for (const auto& h : header) labels << q(h);
                 table->setHorizontalHeaderLabels(labels);
                 table->setRowCount(rows.empty() ? 0 : static_cast<int>(rows.size()) - 1);
+                fitGridHeight(table);
                 for (std::size_t r = 1; r < rows.size(); ++r) {
                     for (int col = 0; col < table->columnCount(); ++col) {
                         const std::string& text =

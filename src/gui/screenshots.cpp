@@ -10,6 +10,8 @@
 #include <QTextStream>
 
 #include <cstdio>
+#include <string>
+#include <vector>
 
 #include "gui/gui_prompter.h"
 #include "gui/help_windows.h"
@@ -53,6 +55,123 @@ QImage menuPicture(MainWindow* menu) {
         at = QPoint(at.x() + shot.width() - 4, at.y() + 4);
     }
     return window;
+}
+
+// A case typed into a module as the user would leave it: boxes and lists by
+// their text ("Text5", or "Form13b.Text1" on a companion), grid cells by row.
+struct Entry {
+    std::string control;
+    std::string text;
+};
+struct Cell {
+    std::string grid;
+    std::size_t row;
+    std::string count;
+};
+
+std::string qualified(ModuleHost& host, const std::string& name) {
+    return name.find('.') == std::string::npos ? host.session().info().key + "." + name : name;
+}
+
+// Puts the entries in the module's boxes and shows them in its open windows.
+void fill(ModuleHost& host, const std::vector<Entry>& entries, const std::vector<Cell>& cells = {}) {
+    FormState& state = host.session().state();
+    for (const Entry& e : entries) state.setText(qualified(host, e.control), e.text);
+    for (const Cell& c : cells) {
+        GridRows& rows = state.grid(c.grid);
+        if (rows.size() <= c.row) rows.resize(c.row + 1, std::vector<std::string>(2));
+        rows[c.row] = {std::to_string(c.row), c.count};
+    }
+    for (const ScreenDecl& screen : host.session().module().screens())
+        if (ScreenWindow* w = host.window(screen.name)) w->loadFrom(state);
+}
+
+// A command as its button gives it: "Command1" on the main screen, "Form8.Command3"
+// on a companion.
+void press(ModuleHost& host, const std::string& command) {
+    const auto dot = command.find('.');
+    host.press(dot == std::string::npos ? host.session().info().key : command.substr(0, dot), command);
+    settle();
+}
+
+bool saveScreen(ModuleHost& host, const std::string& screen, const QString& folder, const char* name) {
+    ScreenWindow* w = host.window(screen);
+    if (!w || !w->isVisible()) {
+        std::fprintf(stderr, "falhou %s/%s: a janela %s não está aberta\n", qPrintable(folder), name,
+                     screen.c_str());
+        return false;
+    }
+    return save(w, folder, name);
+}
+
+ModuleHost* open(MorveApp& app, const std::string& key) {
+    app.openModule(key);
+    settle();
+    return app.module();
+}
+
+// The torsion results and the detailing of a T, from the worked examples.
+bool beamShots(MorveApp& app, const QString& folder) {
+    ScriptedPrompter answers;
+    setGuiPrompter(&answers);
+    bool ok = true;
+    if (ModuleHost* host = open(app, "Form6")) {
+        fill(*host, {{"Text1", "25"}, {"Text3", "210"}, {"Text7", "25"}, {"Text8", "50"}, {"Text9", "4"},
+                     {"Text10", "100"}, {"Text11", "80"}, {"Text12", "15"}, {"List1", "8.0"}});
+        press(*host, "Command1");
+        ok &= saveScreen(*host, "Form6b", folder, "form6b.png");
+    }
+    if (ModuleHost* host = open(app, "Form10")) {
+        fill(*host, {{"Text5", "10"}, {"Text6", "20"}, {"Text9", "4"}, {"Text10", "100"}, {"List6", "1"}});
+        press(*host, "Command3");
+        press(*host, "Command4");
+        fill(*host, {{"Form10b.List1", "16"}, {"Form10b.List2", "10"}, {"Form10b.List3", "6.3"},
+                     {"Form10b.List4", "3"}, {"Form10b.List5", "19"}, {"Form10b.List6", "5"}});
+        press(*host, "Form10b.Command2");
+        press(*host, "Form10b.Command3");
+        ok &= saveScreen(*host, "Form10c", folder, "form10c.png");
+    }
+    setGuiPrompter(nullptr);
+    return ok;
+}
+
+// A design and a verification of a rectangular column, with the section, the
+// interaction diagram, and the design situations of a corner column.
+bool columnShots(MorveApp& app, const QString& folder) {
+    ScriptedPrompter answers;
+    setGuiPrompter(&answers);
+    bool ok = true;
+    const std::vector<Entry> column{{"Text1", "25"}, {"Text2", "500"}, {"Text3", "210"}, {"Text4", "20"},
+                                    {"Text5", "50"},  {"Text6", "4"},   {"Text7", "2"}};
+    if (ModuleHost* host = open(app, "Form12")) {
+        fill(*host, column);
+        fill(*host, {{"Text8", "1000"}, {"Text9", "120"}}, {{"Form12b.Grade1", 1, "3"}, {"Form12b.Grade1", 2, "3"}});
+        press(*host, "Command4");
+        ok &= saveScreen(*host, "Form12", folder, "form12.png");
+        press(*host, "Command5");
+        ok &= saveScreen(*host, "Form12c", folder, "form12c.png");
+    }
+    if (ModuleHost* host = open(app, "Form13")) {
+        fill(*host, column);
+        fill(*host, {{"Text8", "1400"}, {"Form13b.Text1", "17.51"}},
+             {{"Form13b.Grade1", 1, "3"}, {"Form13b.Grade1", 2, "3"}});
+        press(*host, "Command4");
+        press(*host, "Command6");
+        ok &= saveScreen(*host, "Form13c", folder, "form13c.png");
+    }
+    if (ModuleHost* host = open(app, "Form35")) {
+        fill(*host, {{"Text5", "25"}, {"Text6", "25"}, {"Text8", "4"}, {"Text9", "4"}, {"Text14", "1000"},
+                     {"Text10", "30"}, {"Text11", "-10"}, {"Text12", "20"}, {"Text13", "0"}});
+        ok &= saveScreen(*host, "Form35", folder, "form35.png");
+        press(*host, "Command3");
+        ok &= saveScreen(*host, "Form35c", folder, "form35c.png");
+        press(*host, "Form35c.Command1");
+        ok &= saveScreen(*host, "Form35d", folder, "form35d.png");
+    }
+    setGuiPrompter(nullptr);
+    app.returnToMenu();
+    settle();
+    return ok;
 }
 
 }  // namespace
@@ -131,6 +250,8 @@ int takeScreenshots(const QString& folder) {
     }
     setGuiPrompter(nullptr);
     settle();
+    ok &= beamShots(app, folder);
+    ok &= columnShots(app, folder);
     return ok ? 0 : 1;
 }
 

@@ -81,7 +81,9 @@ StartDialog::StartDialog() {
         list->setObjectName(QStringLiteral("List%1").arg(n + 1));
         for (const auto& item : *items[static_cast<std::size_t>(n)]) list->addItem(QString::fromStdString(item));
         const int rows = std::min(list->count(), 4);
-        list->setFixedHeight(rows * std::max(18, list->sizeHintForRow(0)) + 2 * list->frameWidth() + 2);
+        // Whole rows only: a list taller than its rows shows a slice of the next one.
+        const int rowHeight = list->sizeHintForRow(0) > 0 ? list->sizeHintForRow(0) : 18;
+        list->setFixedHeight(rows * rowHeight + 2 * list->frameWidth());
         list->setFixedWidth(120);
         list->setCurrentRow(selected[static_cast<std::size_t>(n)]);
         lists_[static_cast<std::size_t>(n)] = list;
