@@ -1,0 +1,160 @@
+// The beam modules driven through their windows: the rectangular design with its
+// detailing and the report of the final solution, and the torsion design with its
+// result screen and report.
+#include <QTest>
+
+#include "gui/report_panel.h"
+#include "module_user.h"
+
+using namespace morve;
+
+class BeamModulesTest : public QObject {
+    Q_OBJECT
+    std::unique_ptr<ModuleUser> user;
+
+    ReportPanel* panel() { return user->app().reportPanel(); }
+    void clickPanel(const char* button) {
+        auto* b = qobject_cast<QAbstractButton*>(panel()->control(button));
+        QVERIFY2(b && b->isEnabled(), button);
+        QTest::mouseClick(b, Qt::LeftButton);
+        settle();
+    }
+    static bool holdsPicture(const ReportPage& page) {
+        for (const PageLine& line : page.lines)
+            if (line.picture && !line.picture->empty()) return true;
+        return false;
+    }
+
+private slots:
+    void init() { user = std::make_unique<ModuleUser>(); }
+    void cleanup() { user.reset(); }
+
+    void detailingRoundTripEndsInTheReportOfTheSection() {
+        QVERIFY(user->open("Form7"));
+        // fck 25, b 20, h 40, d 36, Mk 40 (the defaults of b, h and d):
+        // Md = 5600 kNcm, sigmacd = 0.85 x 2.5/1.4 = 1.518 kN/cm2,
+        // mu = 5600/(20 x 36^2 x 1.518) = 0.1423, xi = (1 - sqrt(1 - 2mu))/0.8 = 0.1928,
+        // As = 0.8 xi 20 x 36 x 1.518/43.48 = 3.88 cm2, no compression steel.
+        user->type("Form7", "Text1", "25");
+        user->type("Form7", "Text10", "4");
+        user->type("Form7", "Text6", "40");
+        user->pick("Form7", "List6", "2");
+        QVERIFY(!user->printEnabled("Form7"));
+        user->click("Form7", "Command1");
+        QVERIFY(user->told().messages().empty());
+        QCOMPARE(user->text("Form7", "Text7"), QString("3.88"));
+        QCOMPARE(user->text("Form7", "Text8"), QString("0"));
+        QVERIFY(user->printEnabled("Form7"));
+
+        user->click("Form7", "Command3");
+        QVERIFY(user->shown("Form8"));
+        QVERIFY(!user->shown("Form7"));
+        QCOMPARE(user->text("Form8", "Text1"), QString("3.88"));
+        QVERIFY(!user->enabled("Form8", "Command3"));  // "Ver seção" waits for the bars
+
+        // 16 mm below, 10 mm hangers on top, 6.3 mm stirrups, cover 3, aggregate 19,
+        // vibrator 5: 3.88/2.01 = 1.93 -> 2 bars of 16 (4.02 cm2); 2 bars of 10 (1.57).
+        for (auto [list, item] : {std::pair{"List1", "16"}, {"List2", "10"}, {"List3", "6.3"},
+                                  {"List4", "3"}, {"List5", "19"}, {"List6", "5"}})
+            user->pick("Form8", list, item);
+        user->click("Form8", "Command2");
+        QVERIFY(user->told().messages().empty());
+        QCOMPARE(user->text("Form8", "Text3"), QString("2"));
+        QCOMPARE(user->text("Form8", "Text5"), QString("16"));
+        QCOMPARE(user->text("Form8", "Text9"), QString("4.02"));
+        QCOMPARE(user->text("Form8", "Text6"), QString("2"));
+        QCOMPARE(user->text("Form8", "Text8"), QString("10"));
+        QCOMPARE(user->text("Form8", "Text10"), QString("1.57"));
+
+        // One layer each way: d = 40 - 3 - 0.63 - 1.6/2 = 35.57, d' = 3 + 0.63 + 1.0/2 = 4.13.
+        user->click("Form8", "Command3");
+        QVERIFY(user->shown("Form8b"));
+        QVERIFY(!user->screen("Form8")->isEnabled());
+        QCOMPARE(user->text("Form8b", "Text2"), QString("2"));
+        QCOMPARE(user->text("Form8b", "Text4"), QString("10"));
+        QCOMPARE(user->text("Form8b", "Text7"), QString("2"));
+        QCOMPARE(user->text("Form8b", "Text9"), QString("16"));
+        QCOMPARE(user->text("Form8b", "Text12"), QString("35.57"));
+        QCOMPARE(user->text("Form8b", "Text14"), QString("4.13"));
+
+        user->click("Form8b", "Command2");
+        QVERIFY(panel() && panel()->isVisible());
+        QCOMPARE(panel()->key(), std::string("Form8b"));
+        QVERIFY(!user->screen("Form8b")->isEnabled());
+        clickPanel("Command1");
+        QVERIFY(panel()->previewing());
+        QCOMPARE(panel()->pageCount(), 2);
+        const auto pages = panel()->pages(PageRule::Screen);
+        QVERIFY(!holdsPicture(pages[0]));
+        QVERIFY(holdsPicture(pages[1]));
+        clickPanel("Command5");
+        QCOMPARE(panel()->selectedPage(), 2);
+
+        clickPanel("Command3");
+        QVERIFY(!panel());
+        QVERIFY(user->screen("Form8b")->isEnabled());
+        QVERIFY(user->shown("Form8b"));
+    }
+
+    void torsionResultsPrintTheirTwoPagesAndGoBack() {
+        QVERIFY(user->open("Form6"));
+        QVERIFY(user->screen("Form6")->toolbarAction("Imprimir"));
+        // The hand calculation of the torsion tests (b 25, h 50, d' 4, Mk 100,
+        // Vk 80, Tk 15, fck 25, Es 210, 8 mm stirrups): As 7.75, Asl 4.10,
+        // As1..As3 8.33, 0.58, 1.45, Asw,V 1.30, Asw,T 3.48, 8 mm every 12 cm, 2 legs.
+        for (auto [box, text] : {std::pair{"Text1", "25"}, {"Text3", "210"}, {"Text7", "25"}, {"Text8", "50"},
+                                 {"Text9", "4"}, {"Text10", "100"}, {"Text11", "80"}, {"Text12", "15"}})
+            user->type("Form6", box, text);
+        user->pick("Form6", "List1", "8.0");
+        user->click("Form6", "Command1");
+        QVERIFY(user->told().messages().empty());
+        QVERIFY(user->shown("Form6b"));
+        QVERIFY(!user->shown("Form6"));
+        const char* expected[][2] = {{"Text1", "7.75"}, {"Text2", "0"},  {"Text3", "4.1"},  {"Text4", "8.33"},
+                                     {"Text5", "0.58"}, {"Text6", "1.45"}, {"Text7", "1.3"}, {"Text8", "3.48"},
+                                     {"Text9", "8"},    {"Text10", "12"}, {"Text11", "2"}};
+        for (const auto& [box, value] : expected) QCOMPARE(user->text("Form6b", box), QString(value));
+
+        user->click("Form6b", "Command7");
+        QVERIFY(panel() && panel()->isVisible());
+        QCOMPARE(panel()->key(), std::string("Form6b"));
+        QVERIFY(!user->screen("Form6b")->isEnabled());
+        clickPanel("Command1");
+        QCOMPARE(panel()->pageCount(), 2);  // the fixed layout: "... Continua" closes page 1
+        clickPanel("Command3");
+        QVERIFY(user->screen("Form6b")->isEnabled());
+
+        user->click("Form6b", "Command2");
+        QVERIFY(!user->shown("Form6b"));
+        QVERIFY(user->shown("Form6"));
+        QVERIFY(user->app().backdrop()->isVisible());
+        // The boxes typed are still there for another try.
+        QCOMPARE(user->text("Form6", "Text12"), QString("15"));
+    }
+
+    void detailingStopsOnTheFirstUnchosenListAndGoesBack() {
+        QVERIFY(user->open("Form7"));
+        user->type("Form7", "Text10", "4");
+        user->type("Form7", "Text6", "40");
+        user->pick("Form7", "List6", "1");
+        user->click("Form7", "Command1");
+        user->click("Form7", "Command3");
+        QVERIFY(user->shown("Form8"));
+        // The tension bars chosen, the compression bars not: the warning names them
+        // and the focus waits on their list.
+        user->pick("Form8", "List1", "16");
+        user->click("Form8", "Command2");
+        QCOMPARE(user->told().messages().size(), std::size_t(1));
+        QCOMPARE(user->told().messages()[0].text, std::string("Escolha o diâmetro da armadura comprimida."));
+        QCOMPARE(user->focus("Form8"), user->control("Form8", "List2"));
+        QVERIFY(!user->enabled("Form8", "Command3"));
+        // "&Voltar" brings the design back with its results.
+        user->click("Form8", "Command1");
+        QVERIFY(!user->shown("Form8"));
+        QVERIFY(user->shown("Form7"));
+        QVERIFY(!user->text("Form7", "Text7").trimmed().isEmpty());
+    }
+};
+
+QTEST_MAIN(BeamModulesTest)
+#include "beam_modules_test.moc"
