@@ -199,7 +199,9 @@ void ScreenWindow::addControl(QGridLayout* grid, const ControlDecl& c, const std
         case ControlKind::Label: {
             auto* label = new QLabel(q(c.caption), this);
             label->setWordWrap(true);
-            grid->addWidget(label, row, 0, 1, kWholeWidth);
+            // A wrapped label keeps out of the spare column: a span that takes it in
+            // gets the height of one line while the text wraps to two.
+            grid->addWidget(label, row, 0, 1, kSpareColumn);
             widget = label;
             break;
         }
