@@ -1,7 +1,9 @@
 #pragma once
 // `morve --screenshots DIR`: pictures of the menu, the start dialog, Form7 after a
-// calculation, its report preview and its help, for a look at the program
-// without a display.
+// calculation with its detailing, report preview and help, the torsion results,
+// the detailing of a T, a column design with its section, an interaction diagram
+// and the design situations with their plot, for a look at the program without a
+// display.
 #include <QString>
 
 namespace morve {
