@@ -63,12 +63,12 @@ Drawing situationDiagram(const FormState& state) {
         g.line({at, -1.5}, {at, 1.5});
         g.text({at, 8}, value, 8, TextAlign::Centre);
         g.line({-1.5, -at}, {1.5, -at});
-        g.text({-3, -at + 1.5}, value, 8, TextAlign::Right);
+        g.text({-3, -at}, value, 8, TextAlign::Right);
     }
     for (const auto& p : points) {
         const Point at{kSide * p.x / range, -kSide * p.y / range};
         g.circle(at, 1.6, colours::red, true);
-        g.text({at.x + 3, at.y - 3}, "(R=" + p.radius + ")", 8, TextAlign::Left, colours::blue);
+        g.text({at.x + 3, at.y - 4.5}, "(R=" + p.radius + ")", 8, TextAlign::Left, colours::blue);
     }
     return g;
 }
