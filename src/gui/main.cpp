@@ -5,6 +5,7 @@
 #include <QTimer>
 
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 #include "gui/data_paths.h"
@@ -33,6 +34,14 @@ int main(int argc, char** argv) {
             std::fputs(kUsage, stdout);
             return 0;
         }
+    }
+    // Without a display Qt aborts with a message about plugins; say plainly what is
+    // missing instead, and where the calculations can still be run.
+    if (!std::getenv("DISPLAY") && !std::getenv("WAYLAND_DISPLAY") && !std::getenv("QT_QPA_PLATFORM")) {
+        std::fputs("morve: nenhuma tela gráfica disponível (DISPLAY não definido).\n"
+                   "Os módulos também podem ser calculados sem tela com morve-calc (veja o README).\n",
+                   stderr);
+        return 1;
     }
     QApplication qapp(argc, argv);
     QApplication::setApplicationName(QStringLiteral("MORVE"));
