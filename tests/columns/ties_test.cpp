@@ -1,18 +1,16 @@
 // The tie modules under flexo-tension: the asymmetric design against lever-rule and
 // block hand calculations, the symmetric design checked by recomputing the forces
 // of the strain plane it found, the checks of both in order, and their reports.
-#include <gtest/gtest.h>
-
 #include <cmath>
-#include <map>
 
-#include "app/module.h"
 #include "basis/messages.h"
+#include "column_case.h"
 #include "columns/tie_design.h"
 #include "columns/tie_module.h"
-#include "reports/report_dispatch.h"
 
 using namespace morve;
+using morve::testing::labels;
+using morve::testing::reportLines;
 
 namespace {
 
@@ -39,15 +37,6 @@ std::unique_ptr<Run> calculate(const std::string& key, const std::string& mk, co
     run->prompter = ScriptedPrompter(std::move(answers));
     run->outcome = run->session->press("Command6", run->prompter);
     return run;
-}
-
-std::vector<std::string> reportLines(const ModuleSession& session, const std::string& key) {
-    ReportWriter w;
-    EXPECT_TRUE(generateReport(key, session.module(), session.state(), w));
-    std::vector<std::string> lines;
-    for (const auto& b : w.document().blocks)
-        if (const auto* l = std::get_if<ReportLine>(&b)) lines.push_back(l->text());
-    return lines;
 }
 
 // fck 20, gamma 1.4 and 1.15: sigma_cd = 0.85 x 2 / 1.4, fyd = 50 / 1.15 (kN/cm2).
@@ -177,71 +166,55 @@ TEST(Form19Design, TheGuardStopsTheSearchWithItsOwnMessage) {
     EXPECT_EQ(a.omega, b.omega);
 }
 
-struct TieCheck {
-    const char* name;
-    std::map<std::string, std::string> set;  // Mk and Nk by name: "Mk", "Nk"
-    std::vector<std::string> answers;
-    std::string message;
-    MessageKind kind;
-    std::string focus;  // unqualified; "Mk" and "Nk" stand for their boxes
-};
-
-class TieChecks : public ::testing::TestWithParam<std::tuple<std::string, TieCheck>> {};
-
-TEST_P(TieChecks, StopWithTheirTextAndFocus) {
-    const auto& [key, c] = GetParam();
-    const bool f18 = key == "Form18";
-    std::map<std::string, std::string> set;
-    std::string mk = "50", nk = "100";
-    for (const auto& [name, value] : c.set) {
-        if (name == "Mk")
-            mk = value;
-        else if (name == "Nk")
-            nk = value;
-        else
-            set[name] = value;
-    }
-    auto run = calculate(key, mk, nk, set, c.answers);
-    EXPECT_FALSE(run->outcome.completed);
-    ASSERT_FALSE(run->prompter.messages().empty());
-    const Message& last = run->prompter.messages().back();
-    EXPECT_EQ(last.text, c.message);
-    EXPECT_EQ(last.kind, c.kind);
-    std::string focus = c.focus;
-    if (focus == "Mk") focus = f18 ? "Text8" : "Text9";
-    if (focus == "Nk") focus = f18 ? "Text9" : "Text8";
-    EXPECT_EQ(run->outcome.focus, focus.empty() ? "" : key + "." + focus);
-    EXPECT_EQ(run->text("Text10"), " ");
-    EXPECT_TRUE(run->outcome.effects.empty());
+TEST(TieChecks, StopInOrderWithTheirTextAndFocus) {
+    struct Check {
+        std::map<std::string, std::string> set;  // "Mk" and "Nk" stand for their boxes
+        std::vector<std::string> answers;
+        std::string message;
+        MessageKind kind;
+        std::string focus;  // unqualified; "Mk" and "Nk" stand for their boxes
+    };
+    using K = MessageKind;
+    const Check checks[] = {
+        {{{"Text1", "19"}, {"Text2", "0"}}, {}, msg::kLowFck, K::Warning, ""},
+        {{{"Text1", "95"}}, {}, msg::kHighFck, K::Warning, "Text1"},
+        {{{"Text2", "0"}, {"Text3", "0"}}, {}, msg::kPositiveFyk, K::Warning, "Text2"},
+        {{{"Text3", "0"}, {"Text2", "450"}}, {}, msg::kPositiveEs, K::Warning, "Text3"},
+        {{{"Text2", "450"}}, {"yes"}, msg::kSteelClass, K::YesNo, "Text2"},
+        {{{"Text3", "205"}}, {"yes"}, msg::kCodeEs, K::YesNo, "Text3"},
+        {{{"Text4", "0"}, {"Text5", "0"}}, {}, "Forneça um valor positivo para b.", K::Warning, "Text4"},
+        {{{"Text5", ""}}, {}, msg::kPositiveH, K::Warning, "Text5"},
+        {{{"Text6", "0"}}, {}, msg::kPositiveD, K::Warning, "Text6"},
+        {{{"Text6", "40"}}, {}, msg::kDBelowH, K::Warning, "Text6"},
+        {{{"Text7", "0"}}, {}, msg::kPositiveDPrime, K::Warning, "Text7"},
+        {{{"Text7", "36"}}, {}, msg::kDPrimeBelowD, K::Warning, "Text7"},
+        {{{"Mk", "-1"}, {"Nk", "0"}}, {}, "Forneça um valor positivo (ou nulo) para Mk.", K::Warning, "Mk"},
+        {{{"Nk", "0"}, {"Text13", "0"}}, {}, "Forneça um valor positivo para Nk.", K::Warning, "Nk"},
+        {{{"Text13", "0.9"}, {"Text14", "0.9"}}, {}, msg::kPartialCoefficient, K::Warning, "Text13"},
+        {{{"Text14", "0.9"}}, {}, msg::kPartialCoefficient, K::Warning, "Text14"},
+        {{{"Text15", "0"}}, {}, msg::kPartialCoefficient, K::Warning, "Text15"},
+    };
+    for (const std::string key : {"Form18", "Form19"})
+        for (const auto& c : checks) {
+            SCOPED_TRACE(key + " " + c.message);
+            const bool f18 = key == "Form18";
+            std::map<std::string, std::string> set = c.set;
+            const std::string mk = set.count("Mk") ? set["Mk"] : "50", nk = set.count("Nk") ? set["Nk"] : "100";
+            set.erase("Mk");
+            set.erase("Nk");
+            auto run = calculate(key, mk, nk, set, c.answers);
+            EXPECT_FALSE(run->outcome.completed);
+            ASSERT_FALSE(run->prompter.messages().empty());
+            EXPECT_EQ(run->prompter.messages().back().text, c.message);
+            EXPECT_EQ(run->prompter.messages().back().kind, c.kind);
+            std::string focus = c.focus;
+            if (focus == "Mk") focus = f18 ? "Text8" : "Text9";
+            if (focus == "Nk") focus = f18 ? "Text9" : "Text8";
+            EXPECT_EQ(run->outcome.focus, focus.empty() ? "" : key + "." + focus);
+            EXPECT_EQ(run->text("Text10"), " ");
+            EXPECT_TRUE(run->outcome.effects.empty());
+        }
 }
-
-using K = MessageKind;
-const TieCheck kTieChecks[] = {
-    {"LowFck", {{"Text1", "19"}, {"Text2", "0"}}, {}, msg::kLowFck, K::Warning, ""},
-    {"HighFck", {{"Text1", "95"}}, {}, msg::kHighFck, K::Warning, "Text1"},
-    {"Fyk", {{"Text2", "0"}, {"Text3", "0"}}, {}, msg::kPositiveFyk, K::Warning, "Text2"},
-    {"Es", {{"Text3", "0"}, {"Text2", "450"}}, {}, msg::kPositiveEs, K::Warning, "Text3"},
-    {"SteelClass", {{"Text2", "450"}}, {"yes"}, msg::kSteelClass, K::YesNo, "Text2"},
-    {"CodeEs", {{"Text3", "205"}}, {"yes"}, msg::kCodeEs, K::YesNo, "Text3"},
-    {"B", {{"Text4", "0"}, {"Text5", "0"}}, {}, "Forneça um valor positivo para b.", K::Warning, "Text4"},
-    {"H", {{"Text5", ""}}, {}, msg::kPositiveH, K::Warning, "Text5"},
-    {"D", {{"Text6", "0"}}, {}, msg::kPositiveD, K::Warning, "Text6"},
-    {"DAtH", {{"Text6", "40"}}, {}, msg::kDBelowH, K::Warning, "Text6"},
-    {"DPrime", {{"Text7", "0"}}, {}, msg::kPositiveDPrime, K::Warning, "Text7"},
-    {"DPrimeAtD", {{"Text7", "36"}}, {}, msg::kDPrimeBelowD, K::Warning, "Text7"},
-    {"Mk", {{"Mk", "-1"}, {"Nk", "0"}}, {}, "Forneça um valor positivo (ou nulo) para Mk.", K::Warning, "Mk"},
-    {"Nk", {{"Nk", "0"}, {"Text13", "0"}}, {}, "Forneça um valor positivo para Nk.", K::Warning, "Nk"},
-    {"Gamac", {{"Text13", "0.9"}, {"Text14", "0.9"}}, {}, msg::kPartialCoefficient, K::Warning, "Text13"},
-    {"Gamas", {{"Text14", "0.9"}}, {}, msg::kPartialCoefficient, K::Warning, "Text14"},
-    {"Gamaf", {{"Text15", "0"}}, {}, msg::kPartialCoefficient, K::Warning, "Text15"},
-};
-
-INSTANTIATE_TEST_SUITE_P(InOrder, TieChecks,
-                         ::testing::Combine(::testing::Values("Form18", "Form19"),
-                                            ::testing::ValuesIn(kTieChecks)),
-                         [](const auto& info) {
-                             return std::get<0>(info.param) + std::get<1>(info.param).name;
-                         });
 
 TEST(Form18Checks, BalancedWithoutRedistributionAndALimitAboveTheCompressedLayer) {
     auto balanced = calculate("Form18", "50", "100", {{"List2", "Balanceada"}, {"List3", "0.95"}});
@@ -283,18 +256,10 @@ TEST(TieModules, LoadScreenAndEffects) {
 
 TEST(TieReports, LineByLine) {
     const std::vector<std::string> head{
-        "Propriedades dos materiais:",
-        "Concreto: fck= 20 MPa",
-        "Aço: fyk= 500 MPa     Es= 200 GPa",
-        " ",
-        "Coeficientes parciais de segurança:",
-        "Gamac= 1.4     Gamas= 1.15     Gamaf= 1.4",
-        " ",
-        "Dimensões da seção transversal:",
-        "Largura b= 20 cm                       Altura h= 40 cm",
-        "Altura útil d= 36 cm                   Distância d'= 4 cm",
-        " ",
-    };
+        "Propriedades dos materiais:", "Concreto: fck= 20 MPa", "Aço: fyk= 500 MPa     Es= 200 GPa", " ",
+        "Coeficientes parciais de segurança:", "Gamac= 1.4     Gamas= 1.15     Gamaf= 1.4", " ",
+        "Dimensões da seção transversal:", "Largura b= 20 cm                       Altura h= 40 cm",
+        "Altura útil d= 36 cm                   Distância d'= 4 cm", " "};
     auto f18 = calculate("Form18", "150", "100");
     std::vector<std::string> expected = head;
     for (const char* line :
@@ -325,12 +290,6 @@ TEST(TieReports, LineByLine) {
 }
 
 TEST(TieSketch, LabelsBothFacesAndTheForces) {
-    auto labels = [](const Drawing& g) {
-        std::multiset<std::string> out;
-        for (const auto& s : g.shapes)
-            if (const auto* l = std::get_if<Label>(&s.geometry)) out.insert(l->text);
-        return out;
-    };
     auto asym = labels(ModuleRegistry::find("Form18")->drawing("Form18.Picture1", FormState{}));
     auto sym = labels(ModuleRegistry::find("Form19")->drawing("Picture1", FormState{}));
     EXPECT_EQ(asym.count("A's"), 1u);
