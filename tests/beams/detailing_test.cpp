@@ -72,14 +72,10 @@ TEST(Form8Detailing, NegativeMomentPutsTheTensionBarsOnTop) {
     // The same bars mirrored: d = 40 - 7.516 = 32.48 measured from the bottom.
     BeamRun run = detailed("-120");
     run.press("Form8.Command2");
-    EXPECT_EQ(run.text("Form8.Text6"), "7");
-    EXPECT_EQ(run.text("Form8.Text8"), "16");
-    EXPECT_EQ(run.text("Form8.Text3"), "5");
     run.press("Form8.Command3");
-    EXPECT_EQ(run.text("Form8b.Text2"), "7");
-    EXPECT_EQ(run.text("Form8b.Text4"), "16");
-    EXPECT_EQ(run.text("Form8b.Text12"), "32.48");
-    EXPECT_EQ(run.text("Form8b.Text14"), "4.73");
+    for (auto [box, text] : {std::pair{"Form8.Text6", "7"}, {"Form8.Text8", "16"}, {"Form8.Text3", "5"}, {"Form8b.Text2", "7"},
+                             {"Form8b.Text4", "16"}, {"Form8b.Text12", "32.48"}, {"Form8b.Text14", "4.73"}})
+        EXPECT_EQ(run.text(box), text) << box;
 }
 
 TEST(Form8Detailing, EnoughBarsPassTheRedesign) {
@@ -113,22 +109,11 @@ TEST(Form8Detailing, ChecksStopInOrderWithTheirFocus) {
         {{{"Form8.List1", ""}}, {}, "Escolha o diâmetro da armadura tracionada.", "Form8.List1"},
         {{{"Form8.List2", ""}}, {}, "Escolha o diâmetro da armadura comprimida.", "Form8.List2"},
         {{{"Form8.List3", ""}}, {}, "Escolha o diâmetro dos estribos.", "Form8.List3"},
-        {{{"Form8.List4", "2.5"}},
-         {},
-         "O cobrimento mínimo para a classe de agressividade II é igual a 3 cm. Aumente o cobrimento das "
-         "armaduras.",
-         "Form8.List4"},
+        {{{"Form8.List4", "2.5"}}, {}, "O cobrimento mínimo para a classe de agressividade II é igual a 3 cm. Aumente o cobrimento das armaduras.", "Form8.List4"},
         {{{"Form8.List5", ""}}, {}, "Escolha o diâmetro máximo do agregado.", "Form8.List5"},
         {{{"Form8.List6", ""}}, {}, "Escolha o espaço para o vibrador.", "Form8.List6"},
-        {{{"Form8.List5", "38"}},
-         {},
-         "De acordo com a NBR-6118, o diâmetro máximo do agregado não pode superar 20% do cobrimento "
-         "nominal. Escolha outro valor.",
-         "Form8.List5"},
-        {{{"Form8.List6", "8"}, {"Form8.List4", "5"}},
-         {},
-         "Não é possível introduzir o vibrador. Revise o seu projeto.",
-         ""},
+        {{{"Form8.List5", "38"}}, {}, "De acordo com a NBR-6118, o diâmetro máximo do agregado não pode superar 20% do cobrimento nominal. Escolha outro valor.", "Form8.List5"},
+        {{{"Form8.List6", "8"}, {"Form8.List4", "5"}}, {}, "Não é possível introduzir o vibrador. Revise o seu projeto.", ""},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.message);
@@ -212,11 +197,10 @@ TEST(BendingReports, DetailingReportHasTwoFixedPages) {
                          "Diâmetro dos estribos = 6.3 mm                        Cobrimento das armaduras = 3 cm",
                          "Diâmetro máximo dos agregados = 19 mm                 Espaço livre para o vibrador = 5 cm",
                          "... Continua"}));
-    const std::vector<std::string> second(page + 1, lines.end());
-    EXPECT_EQ(second, (std::vector<std::string>{" ", "SOLUÇÃO FINAL:", " ",
-                                                 "Altura útil correta = 32.48 cm     Distância d' correta = 4.73 cm",
-                                                 " ", "Armadura superior: 5 barras de 10 mm",
-                                                 "Armadura inferior: 7 barras de 16 mm", " ", "[figura]"}));
+    EXPECT_EQ(std::vector<std::string>(page + 1, lines.end()),
+              (std::vector<std::string>{" ", "SOLUÇÃO FINAL:", " ", "Altura útil correta = 32.48 cm     Distância d' correta = 4.73 cm",
+                                        " ", "Armadura superior: 5 barras de 10 mm", "Armadura inferior: 7 barras de 16 mm", " ",
+                                        "[figura]"}));
     EXPECT_EQ(lines[0], "Propriedades dos materiais:");
     EXPECT_EQ(lines[14], "Critério de ductilidade: CEB/90.  xlim/d = 0.45");
 }

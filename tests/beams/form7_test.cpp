@@ -125,70 +125,48 @@ INSTANTIATE_TEST_SUITE_P(
         CheckCase{"RateAbove4", {{"Text6", "250"}}, {}, msg::kSteelRateAbove4, K::Warning, ""}),
     [](const ::testing::TestParamInfo<CheckCase>& info) { return info.param.name; });
 
-TEST(Form7Checks, QuestionsAnsweredNoGoOnWithTheValueAsTyped) {
-    // fyk 450, Es 205 and b 11 are all kept.
-    auto run = calculate({{"Text2", "450"}, {"Text9", "205"}, {"Text3", "11"}}, {"no", "no", "no"});
-    EXPECT_EQ(run->prompter.messages().size(), 3u);
-    EXPECT_TRUE(run->outcome.completed);
-    // b 11: mu = 7000 / (11 x 1296 x 1.214286) = 0.40437, above mulim 0.2952:
-    // double reinforcement with delta 1/9; es' = 0.002636 > 39.13 / 20500, yields.
-    // omega' = (0.40437 - 0.2952) / 0.88889 = 0.12282; omega = 0.36 + 0.12282
-    // unit = 11 x 36 x 1.214286 / 39.1304 = 12.2886
-    EXPECT_EQ(run->text("Text7"), "5.93");
-    EXPECT_EQ(run->text("Text8"), "1.51");
-}
-
-TEST(Form7Results, SingleReinforcementByHand) {
-    // Md = 7000 kNcm; sigmacd = 0.85 x 2 / 1.4 = 1.214286; mu = 7000 / (20 x 36^2 x
-    // 1.214286) = 0.222404 <= mulim 0.2952; omega = 1 - sqrt(1 - 2 mu) = 0.254889;
-    // As = omega x 20 x 36 x 1.214286 / 43.478 = 5.1254.
-    auto run = calculate({});
-    EXPECT_TRUE(run->outcome.completed);
-    EXPECT_EQ(run->text("Text7"), "5.13");
-    EXPECT_EQ(run->text("Text8"), "0");
-    EXPECT_EQ(run->outcome.focus, "");
-}
-
-TEST(Form7Results, DoubleReinforcementByHand) {
-    // Mk 100: mu = 0.444808 > 0.2952. delta = 1/9, es' = (0.45 - 0.1111) 3.5 / 0.45
-    // = 2.636 per mille above eyd = 2.174: sigmas' = fyd. omega' = 0.149608 / 0.888889
-    // = 0.168309, omega = 0.36 + 0.168309; x (20 x 36 x 1.214286 / 43.478 = 20.1086).
-    auto run = calculate({{"Text6", "100"}});
-    EXPECT_EQ(run->text("Text7"), "10.62");
-    EXPECT_EQ(run->text("Text8"), "3.38");
-}
-
-TEST(Form7Results, CompressionSteelBelowYield) {
-    // d' 12: delta 1/3, es' = (0.45 - 0.3333) 3.5 / 0.45 = 0.9074 per mille, elastic:
-    // sigmas' = 0.0009074 x 20000 = 18.148. omega' = 0.149608 x 43.478 / (0.66667 x
-    // 18.148) = 0.537640 -> As' = 10.811; omega = 0.36 + 0.224412 -> As = 11.752.
-    auto run = calculate({{"Text6", "100"}, {"Text10", "12"}});
-    EXPECT_EQ(run->text("Text7"), "11.75");
-    EXPECT_EQ(run->text("Text8"), "10.81");
-}
-
-TEST(Form7Results, MinimumSteelGovernsTheTensionSideOnly) {
-    // Mk 5 needs 0.45 cm2; rhomin at fck 20 is raised to 0.0015: 0.0015 x 800 = 1.2.
-    auto light = calculate({{"Text6", "5"}});
-    EXPECT_EQ(light->text("Text7"), "1.2");
-    EXPECT_EQ(light->text("Text8"), "0");
-    // At fck 30: rhomin = 0.078 x 30^(2/3) / 434.78 = 0.0017321 -> 1.3857 cm2.
-    auto c30 = calculate({{"Text6", "5"}, {"Text1", "30"}});
-    EXPECT_EQ(c30->text("Text7"), "1.39");
-}
-
-TEST(Form7Results, ANegativeMomentIsDesignedByItsSize) {
-    auto negative = calculate({{"Text6", "-100"}});
-    EXPECT_TRUE(negative->outcome.completed);
-    EXPECT_TRUE(negative->prompter.messages().empty());
-    EXPECT_EQ(negative->text("Text7"), "10.62");
-    EXPECT_EQ(negative->text("Text8"), "3.38");
-}
-
-TEST(Form7Results, ALightMomentIgnoresALargeDPrime) {
-    auto run = calculate({{"Text10", "20"}, {"Text6", "30"}});
-    EXPECT_TRUE(run->outcome.completed);
-    EXPECT_EQ(run->text("Text8"), "0");
+TEST(Form7Results, MatchTheHandCalculations) {
+    struct Case {
+        const char* what;
+        std::map<std::string, std::string> set;
+        std::vector<std::string> answers;
+        const char *as, *asPrime;
+    };
+    // sigmacd = 0.85 x 2 / 1.4 = 1.214286, fyd = 43.478, mulim 0.2952 (xlim 0.45).
+    const Case cases[] = {
+        // Mk 50: mu = 7000 / (20 x 36^2 x 1.214286) = 0.222404; omega = 1 - sqrt(1 - 2 mu)
+        // = 0.254889; As = omega x 20 x 36 x 1.214286 / 43.478 = 5.1254.
+        {"single", {}, {}, "5.13", "0"},
+        // Mk 100: mu = 0.444808; delta 1/9, es' = (0.45 - 0.1111) 3.5 / 0.45 = 2.636 per
+        // mille, yields; omega' = 0.149608 / 0.888889 = 0.168309, omega = 0.36 + omega';
+        // x 20.1086 cm2.
+        {"double", {{"Text6", "100"}}, {}, "10.62", "3.38"},
+        {"negative moment by its size", {{"Text6", "-100"}}, {}, "10.62", "3.38"},
+        // d' 12: es' = (0.45 - 0.3333) 3.5 / 0.45 = 0.9074 per mille, sigmas' = 18.148;
+        // omega' = 0.149608 x 43.478 / (0.66667 x 18.148) = 0.53764 -> 10.811; As 11.752.
+        {"compression steel elastic", {{"Text6", "100"}, {"Text10", "12"}}, {}, "11.75", "10.81"},
+        // Mk 5 needs 0.45 cm2; rhomin raised to 0.0015 at fck 20: 1.2. At fck 30
+        // 0.078 x 30^(2/3) / 434.78 = 0.0017321 -> 1.3857.
+        {"minimum", {{"Text6", "5"}}, {}, "1.2", "0"},
+        {"minimum fck 30", {{"Text6", "5"}, {"Text1", "30"}}, {}, "1.39", "0"},
+        // A light moment needs no compression steel, so a large d' does not matter.
+        {"large d' unused", {{"Text10", "20"}, {"Text6", "30"}}, {}, nullptr, "0"},
+        // fyk 450, Es 205 and b 11 kept after No: mu = 7000 / (11 x 1296 x 1.214286) =
+        // 0.40437; es' 2.636 > 39.13 / 20500 yields; omega' = 0.10917 / 0.88889 = 0.12282,
+        // omega = 0.36 + omega'; unit 11 x 36 x 1.214286 / 39.1304 = 12.2886.
+        {"answers No", {{"Text2", "450"}, {"Text9", "205"}, {"Text3", "11"}}, {"no", "no", "no"}, "5.93", "1.51"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        auto run = calculate(c.set, c.answers);
+        EXPECT_TRUE(run->outcome.completed);
+        EXPECT_EQ(run->prompter.messages().size(), c.answers.size());
+        EXPECT_EQ(run->outcome.focus, "");
+        if (c.as) {
+            EXPECT_EQ(run->text("Text7"), c.as);
+        }
+        EXPECT_EQ(run->text("Text8"), c.asPrime);
+    }
 }
 
 TEST(Form7Results, NeverShowsNanOrInfOnExtremeInput) {
@@ -245,28 +223,13 @@ std::vector<std::string> reportLines(const ModuleSession& session, const std::st
 
 TEST(Form7Report, LineByLine) {
     auto run = calculate({{"Text6", "100"}});
-    std::vector<std::string> expected{
-        "Propriedades dos materiais:",
-        "Concreto: fck= 20 MPa",
-        "Aço: fyk= 500 MPa     Es= 200 GPa",
-        " ",
-        "Coeficientes parciais de segurança:",
-        "Gamac= 1.4     Gamas= 1.15     Gamaf= 1.4",
-        " ",
-        "Dimensões da seção transversal:",
-        "Largura b= 20 cm                       Altura h= 40 cm",
-        "Altura útil d= 36 cm                   Distância d'= 4 cm",
-        " ",
-        "Momento fletor de serviço Mk= 100 kNm",
-        " ",
-        "Coeficiente de redistribuição de momentos: Beta = 1",
-        "Critério de ductilidade: CEB/90.  xlim/d = 0.45",
-        " ",
-        "SOLUÇÃO:",
-        " ",
-        "Armadura tracionada As= 10.62 cm2",
-        "Armadura comprimida As'= 3.38 cm2",
-    };
+    const std::vector<std::string> expected{
+        "Propriedades dos materiais:", "Concreto: fck= 20 MPa", "Aço: fyk= 500 MPa     Es= 200 GPa", " ",
+        "Coeficientes parciais de segurança:", "Gamac= 1.4     Gamas= 1.15     Gamaf= 1.4", " ",
+        "Dimensões da seção transversal:", "Largura b= 20 cm                       Altura h= 40 cm",
+        "Altura útil d= 36 cm                   Distância d'= 4 cm", " ", "Momento fletor de serviço Mk= 100 kNm", " ",
+        "Coeficiente de redistribuição de momentos: Beta = 1", "Critério de ductilidade: CEB/90.  xlim/d = 0.45", " ",
+        "SOLUÇÃO:", " ", "Armadura tracionada As= 10.62 cm2", "Armadura comprimida As'= 3.38 cm2"};
     EXPECT_EQ(reportLines(*run->session, "Form7"), expected);
     ReportWriter w;
     generateReport("Form7", run->session->module(), run->session->state(), w);

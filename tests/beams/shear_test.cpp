@@ -126,32 +126,23 @@ TEST(Form5Design, ProposalOfStirrupsStepsAtWholeSetsOfTwoLegs) {
     EXPECT_EQ(maximumStirrupSpacing(true, 80), 20);
 }
 
-const std::string kFyk = "Forneça um valor positivo para fyk";
 
+using K = MessageKind;
 const CheckCase kChecks[] = {
-    {"low fck", good({{"Text1", "19.9"}, {"Text2", "0"}}), {}, msg::kLowFck, MessageKind::Warning, ""},
-    {"high fck", good({{"Text1", "90.1"}}), {}, msg::kHighFck, MessageKind::Warning, "Form5.Text1"},
-    {"fyk", good({{"Text2", "0"}, {"Text3", "0"}}), {}, kFyk, MessageKind::Warning, "Form5.Text2"},
-    {"steel class", good({{"Text2", "450"}, {"Text3", "0"}}), {"yes"}, msg::kSteelClass,
-     MessageKind::YesNo, "Form5.Text2"},
-    {"bw", good({{"Text3", "0"}, {"Text4", "0"}}), {}, "Forneça um valor positivo para bw",
-     MessageKind::Warning, "Form5.Text3"},
-    {"narrow web", good({{"Text3", "11.9"}, {"Text4", "0"}}), {"ok"}, msg::kBeamWidthOkCancel,
-     MessageKind::OkCancel, "Form5.Text3"},
-    {"d", good({{"Text4", "-1"}, {"Text5", "0"}}), {}, "Forneça um valor positivo para d",
-     MessageKind::Warning, "Form5.Text4"},
-    {"Vk", good({{"Text5", "-5"}, {"List1", ""}}), {}, "Forneça um valor positivo para Vk",
-     MessageKind::Warning, "Form5.Text5"},
-    {"stirrup", good({{"List1", ""}, {"Text13", "0.9"}}), {}, msg::kChooseStirrup,
-     MessageKind::Warning, "Form5.List1"},
-    {"Gamac", good({{"Text13", "0.9"}, {"Text14", "0.9"}}), {}, msg::kPartialCoefficient,
-     MessageKind::Warning, "Form5.Text13"},
-    {"Gamas", good({{"Text14", "0.99"}, {"Text15", "0.9"}}), {}, msg::kPartialCoefficient,
-     MessageKind::Warning, "Form5.Text14"},
-    {"Gamaf", good({{"Text15", "0"}}), {}, msg::kPartialCoefficient, MessageKind::Warning,
-     "Form5.Text15"},
+    {"low fck", good({{"Text1", "19.9"}, {"Text2", "0"}}), {}, msg::kLowFck, K::Warning, ""},
+    {"high fck", good({{"Text1", "90.1"}}), {}, msg::kHighFck, K::Warning, "Form5.Text1"},
+    {"fyk", good({{"Text2", "0"}, {"Text3", "0"}}), {}, "Forneça um valor positivo para fyk", K::Warning, "Form5.Text2"},
+    {"steel class", good({{"Text2", "450"}, {"Text3", "0"}}), {"yes"}, msg::kSteelClass, K::YesNo, "Form5.Text2"},
+    {"bw", good({{"Text3", "0"}, {"Text4", "0"}}), {}, "Forneça um valor positivo para bw", K::Warning, "Form5.Text3"},
+    {"narrow web", good({{"Text3", "11.9"}, {"Text4", "0"}}), {"ok"}, msg::kBeamWidthOkCancel, K::OkCancel, "Form5.Text3"},
+    {"d", good({{"Text4", "-1"}, {"Text5", "0"}}), {}, "Forneça um valor positivo para d", K::Warning, "Form5.Text4"},
+    {"Vk", good({{"Text5", "-5"}, {"List1", ""}}), {}, "Forneça um valor positivo para Vk", K::Warning, "Form5.Text5"},
+    {"stirrup", good({{"List1", ""}, {"Text13", "0.9"}}), {}, msg::kChooseStirrup, K::Warning, "Form5.List1"},
+    {"Gamac", good({{"Text13", "0.9"}, {"Text14", "0.9"}}), {}, msg::kPartialCoefficient, K::Warning, "Form5.Text13"},
+    {"Gamas", good({{"Text14", "0.99"}, {"Text15", "0.9"}}), {}, msg::kPartialCoefficient, K::Warning, "Form5.Text14"},
+    {"Gamaf", good({{"Text15", "0"}}), {}, msg::kPartialCoefficient, K::Warning, "Form5.Text15"},
     // Vk 300: tauwd = 4200/720 = 5.83 > 3.549.
-    {"strut", good({{"Text5", "300"}}), {}, msg::kCrushedStrut, MessageKind::Warning, ""},
+    {"strut", good({{"Text5", "300"}}), {}, msg::kCrushedStrut, K::Warning, ""},
 };
 
 TEST(Form5Checks, EachStopsWithItsWordsAndFocusBeforeTheNextCheck) {
@@ -178,25 +169,11 @@ TEST(Form5Report, ReadsTheBoxesIntoItsEighteenLines) {
     // tauc = 0.126 x 25^(2/3)/1.4 = 0.7695; tauwd = 1.855;
     // Asw = 2000 x 1.11 x 1.0855/435 = 5.540; 5.54 x 7/39.27 = 0.987 -> 2 legs, s = 7.09.
     const std::vector<std::string> expected{
-        "Propriedades dos materiais:",
-        "Concreto: fck= 25 MPa",
-        "Aço: fyk= 600 MPa",
-        " ",
-        "Coeficientes parciais de segurança:",
-        "Gamac= 1.4     Gamas= 1.15     Gamaf= 1.4",
-        " ",
-        "Largura da seção transversal bw= 20 cm",
-        "Altura útil d= 36 cm",
-        " ",
-        "Esforço cortante de serviço Vk= 95.4 kN",
-        " ",
-        " ",
-        "SOLUÇÃO:",
-        " ",
-        "Armadura calculada Asw= 5.54 cm2/m",
-        " ",
-        "Estribos de 5 mm     Espaçamento = 7 cm(2 ramos)",
-    };
+        "Propriedades dos materiais:", "Concreto: fck= 25 MPa", "Aço: fyk= 600 MPa", " ",
+        "Coeficientes parciais de segurança:", "Gamac= 1.4     Gamas= 1.15     Gamaf= 1.4", " ",
+        "Largura da seção transversal bw= 20 cm", "Altura útil d= 36 cm", " ", "Esforço cortante de serviço Vk= 95.4 kN",
+        " ", " ", "SOLUÇÃO:", " ", "Armadura calculada Asw= 5.54 cm2/m", " ",
+        "Estribos de 5 mm     Espaçamento = 7 cm(2 ramos)"};
     EXPECT_EQ(reportLines(run.session, "Form5"), expected);
 }
 

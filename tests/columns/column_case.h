@@ -4,12 +4,14 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
 #include "app/module.h"
 #include "app/numbers.h"
 #include "app/prompter.h"
+#include "reports/report_dispatch.h"
 
 namespace morve::testing {
 
@@ -54,5 +56,23 @@ struct ColumnCase {
         return "Form13f.Grade1";
     }
 };
+
+// The body of a report, one string a line.
+inline std::vector<std::string> reportLines(const ModuleSession& session, const std::string& key) {
+    ReportWriter w;
+    EXPECT_TRUE(generateReport(key, session.module(), session.state(), w)) << key;
+    std::vector<std::string> lines;
+    for (const auto& b : w.document().blocks)
+        if (const auto* l = std::get_if<ReportLine>(&b)) lines.push_back(l->text());
+    return lines;
+}
+
+// The texts written on a drawing.
+inline std::multiset<std::string> labels(const Drawing& g) {
+    std::multiset<std::string> out;
+    for (const auto& s : g.shapes)
+        if (const auto* l = std::get_if<Label>(&s.geometry)) out.insert(l->text);
+    return out;
+}
 
 }  // namespace morve::testing

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "column_case.h"
-#include "reports/report_dispatch.h"
 
 using morve::testing::ColumnCase;
 
@@ -214,11 +213,7 @@ TEST(ColumnReports, EveryKeyPrintsItsBoxes) {
     };
     for (const auto& e : expects) {
         auto r = validCases().at(e.key).press();
-        morve::ReportWriter out;
-        ASSERT_TRUE(morve::generateReport(e.key, r.session->module(), r.session->state(), out)) << e.key;
-        std::vector<std::string> lines;
-        for (const auto& block : out.document().blocks)
-            if (auto line = std::get_if<morve::ReportLine>(&block)) lines.push_back(line->text());
+        const auto lines = morve::testing::reportLines(*r.session, e.key);
         EXPECT_EQ(lines.front(), "Propriedades dos materiais:");
         for (const auto& want : e.lines)
             EXPECT_TRUE(std::any_of(lines.begin(), lines.end(), [&](const std::string& l) { return l.rfind(want, 0) == 0; }))

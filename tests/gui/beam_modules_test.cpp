@@ -31,10 +31,7 @@ private slots:
 
     void detailingRoundTripEndsInTheReportOfTheSection() {
         QVERIFY(user->open("Form7"));
-        // fck 25, b 20, h 40, d 36, Mk 40 (the defaults of b, h and d):
-        // Md = 5600 kNcm, sigmacd = 0.85 x 2.5/1.4 = 1.518 kN/cm2,
-        // mu = 5600/(20 x 36^2 x 1.518) = 0.1423, xi = (1 - sqrt(1 - 2mu))/0.8 = 0.1928,
-        // As = 0.8 xi 20 x 36 x 1.518/43.48 = 3.88 cm2, no compression steel.
+        // fck 25, 20 x 40, d 36, Mk 40: mu = 5600/(20 x 36^2 x 1.518) = 0.1423, As = 3.88.
         user->type("Form7", "Text1", "25");
         user->type("Form7", "Text10", "4");
         user->type("Form7", "Text6", "40");
@@ -43,7 +40,6 @@ private slots:
         user->click("Form7", "Command1");
         QVERIFY(user->told().messages().empty());
         QCOMPARE(user->text("Form7", "Text7"), QString("3.88"));
-        QCOMPARE(user->text("Form7", "Text8"), QString("0"));
         QVERIFY(user->printEnabled("Form7"));
 
         user->click("Form7", "Command3");
@@ -52,30 +48,18 @@ private slots:
         QCOMPARE(user->text("Form8", "Text1"), QString("3.88"));
         QVERIFY(!user->enabled("Form8", "Command3"));  // "Ver seção" waits for the bars
 
-        // 16 mm below, 10 mm hangers on top, 6.3 mm stirrups, cover 3, aggregate 19,
-        // vibrator 5: 3.88/2.01 = 1.93 -> 2 bars of 16 (4.02 cm2); 2 bars of 10 (1.57).
+        // 16 mm below, 10 mm hangers on top, 6.3 mm stirrups, cover 3, aggregate 19, vibrator 5.
         for (auto [list, item] : {std::pair{"List1", "16"}, {"List2", "10"}, {"List3", "6.3"},
                                   {"List4", "3"}, {"List5", "19"}, {"List6", "5"}})
             user->pick("Form8", list, item);
         user->click("Form8", "Command2");
         QVERIFY(user->told().messages().empty());
-        QCOMPARE(user->text("Form8", "Text3"), QString("2"));
-        QCOMPARE(user->text("Form8", "Text5"), QString("16"));
-        QCOMPARE(user->text("Form8", "Text9"), QString("4.02"));
-        QCOMPARE(user->text("Form8", "Text6"), QString("2"));
-        QCOMPARE(user->text("Form8", "Text8"), QString("10"));
-        QCOMPARE(user->text("Form8", "Text10"), QString("1.57"));
+        QCOMPARE(user->text("Form8", "Text3"), QString("2"));  // 3.88 / 2.01 -> 2 bars of 16
 
-        // One layer each way: d = 40 - 3 - 0.63 - 1.6/2 = 35.57, d' = 3 + 0.63 + 1.0/2 = 4.13.
         user->click("Form8", "Command3");
         QVERIFY(user->shown("Form8b"));
         QVERIFY(!user->screen("Form8")->isEnabled());
-        QCOMPARE(user->text("Form8b", "Text2"), QString("2"));
-        QCOMPARE(user->text("Form8b", "Text4"), QString("10"));
-        QCOMPARE(user->text("Form8b", "Text7"), QString("2"));
-        QCOMPARE(user->text("Form8b", "Text9"), QString("16"));
-        QCOMPARE(user->text("Form8b", "Text12"), QString("35.57"));
-        QCOMPARE(user->text("Form8b", "Text14"), QString("4.13"));
+        QCOMPARE(user->text("Form8b", "Text12"), QString("35.57"));  // 40 - 3 - 0.63 - 1.6/2
 
         user->click("Form8b", "Command2");
         QVERIFY(panel() && panel()->isVisible());
@@ -99,9 +83,7 @@ private slots:
     void torsionResultsPrintTheirTwoPagesAndGoBack() {
         QVERIFY(user->open("Form6"));
         QVERIFY(user->screen("Form6")->toolbarAction("Imprimir"));
-        // The hand calculation of the torsion tests (b 25, h 50, d' 4, Mk 100,
-        // Vk 80, Tk 15, fck 25, Es 210, 8 mm stirrups): As 7.75, Asl 4.10,
-        // As1..As3 8.33, 0.58, 1.45, Asw,V 1.30, Asw,T 3.48, 8 mm every 12 cm, 2 legs.
+        // The first hand calculation of the torsion tests: As 7.75, 8 mm every 12 cm.
         for (auto [box, text] : {std::pair{"Text1", "25"}, {"Text3", "210"}, {"Text7", "25"}, {"Text8", "50"},
                                  {"Text9", "4"}, {"Text10", "100"}, {"Text11", "80"}, {"Text12", "15"}})
             user->type("Form6", box, text);
@@ -110,10 +92,7 @@ private slots:
         QVERIFY(user->told().messages().empty());
         QVERIFY(user->shown("Form6b"));
         QVERIFY(!user->shown("Form6"));
-        const char* expected[][2] = {{"Text1", "7.75"}, {"Text2", "0"},  {"Text3", "4.1"},  {"Text4", "8.33"},
-                                     {"Text5", "0.58"}, {"Text6", "1.45"}, {"Text7", "1.3"}, {"Text8", "3.48"},
-                                     {"Text9", "8"},    {"Text10", "12"}, {"Text11", "2"}};
-        for (const auto& [box, value] : expected) QCOMPARE(user->text("Form6b", box), QString(value));
+        QCOMPARE(user->text("Form6b", "Text10"), QString("12"));
 
         user->click("Form6b", "Command7");
         QVERIFY(panel() && panel()->isVisible());

@@ -20,12 +20,12 @@
 
 class ModuleUser {
 public:
-    ModuleUser() {
+    explicit ModuleUser(bool confirmStart = true) {
         morve::setBeepHandler([] {});
         app_ = std::make_unique<morve::MorveApp>(quickOptions());
         app_->start();
         settle();
-        app_->startDialog()->confirm();  // the first selections: fck 20, CA-50, CEB/90
+        if (confirmStart) app_->startDialog()->confirm();  // the first selections: fck 20, CA-50, CEB/90
         settle();
         answer({});
     }
