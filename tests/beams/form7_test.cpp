@@ -4,6 +4,7 @@
 
 #include <map>
 
+#include "../stop_expectations.h"
 #include "app/module.h"
 #include "basis/messages.h"
 #include "beams/form7.h"
@@ -78,16 +79,9 @@ class Form7Checks : public ::testing::TestWithParam<CheckCase> {};
 TEST_P(Form7Checks, StopsWithItsTextAndFocus) {
     const CheckCase& c = GetParam();
     auto run = calculate(c.set, c.answers);
-    EXPECT_FALSE(run->outcome.completed);
-    ASSERT_FALSE(run->prompter.messages().empty());
-    const Message& last = run->prompter.messages().back();
-    EXPECT_EQ(last.text, c.message);
-    EXPECT_EQ(last.kind, c.kind);
-    EXPECT_EQ(last.title, "MORVE");
-    EXPECT_EQ(run->outcome.focus, c.focus);
+    expectStop(run->prompter, run->outcome, c.message, c.kind, c.focus);
     EXPECT_EQ(run->text("Text7"), " ");
     EXPECT_EQ(run->text("Text8"), " ");
-    EXPECT_TRUE(run->outcome.effects.empty());
 }
 
 const std::string kNonZeroMk = "Forneça um valor não nulo para Mk.";

@@ -1,6 +1,7 @@
 // Column design situations: the eccentricities and situations of the four column
 // types against hand calculations, the slenderness limits, the checks in order,
 // the screens and the plot, and the report.
+#include "../stop_expectations.h"
 #include "basis/messages.h"
 #include "column_case.h"
 
@@ -145,14 +146,8 @@ TEST(Form35Checks, StopInOrderWithTheirTextAndFocus) {
     for (const auto& c : checks) {
         SCOPED_TRACE(c.message);
         auto run = calculate(c.set, c.answers);
-        EXPECT_FALSE(run->outcome.completed);
-        ASSERT_FALSE(run->prompter.messages().empty());
-        const Message& last = run->prompter.messages().back();
-        EXPECT_EQ(last.text, c.message);
-        EXPECT_EQ(last.kind, c.kind);
-        EXPECT_EQ(last.title, "MORVE");
-        EXPECT_EQ(run->outcome.focus, c.focus.empty() ? "" : "Form35." + c.focus);
-        EXPECT_TRUE(run->outcome.effects.empty());
+        expectStop(run->prompter, run->outcome, c.message, c.kind,
+                   c.focus.empty() ? "" : "Form35." + c.focus);
         EXPECT_EQ(run->text("Form35c.Text1"), "");
     }
 }
