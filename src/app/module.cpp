@@ -15,6 +15,17 @@ Drawing Module::drawing(const std::string&, const FormState&) const { return {};
 
 Chart Module::chart(const std::string&, const FormState&) const { return {}; }
 
+std::vector<std::string> Module::projectFields() const {
+    std::vector<std::string> fields;
+    for (const auto& screen : screens())
+        for (const auto& c : screen.controls)
+            if (c.kind == ControlKind::TextBox || c.kind == ControlKind::List ||
+                c.kind == ControlKind::Option || c.kind == ControlKind::Check ||
+                c.kind == ControlKind::Grid)
+                fields.push_back(screen.name + "." + c.name);
+    return fields;
+}
+
 namespace {
 
 std::map<std::string, std::unique_ptr<Module>>& registry() {

@@ -44,6 +44,11 @@ public:
     virtual Drawing drawing(const std::string& picture, const FormState& state) const;
     // The chart of a chart control ("Form13c.Chart1"); empty when none.
     virtual Chart chart(const std::string& control, const FormState& state) const;
+    // The inputs a project file keeps after the module tag, qualified and in file
+    // order: boxes, list selections, options and grids (a grid as its row count,
+    // then its cells). By default every input control of every screen, in the order
+    // declared; a module with files overrides it only to choose or order them.
+    virtual std::vector<std::string> projectFields() const;
 };
 
 // Modules register themselves by key; the menu enables what is registered.
