@@ -86,15 +86,18 @@ ScreenDecl mainScreen() {
 
 ScreenDecl loadScreen() {
     ScreenBuilder s("Form39b", "Carregamento do vão", false);
-    s.frame("Frame1", "Cargas uniformes", 0, 0)
-        .grid("Grade2", loadGrid({"Carga", "Início (m)", "Comprimento (m)", "Valor (kN/m)"}));
-    s.frame("Frame2", "Cargas concentradas no vão", 1, 0)
-        .grid("Grade1", loadGrid({"Carga", "Posição (m)", "Força (kN)", "Momento (kNm)"}));
-    s.frame("Frame3", "Momentos nas extremidades", 2, 0)
+    // The units go in the frame's title, where they are not cut as in a narrow column head.
+    s.frame("Frame1", "Cargas uniformes (m, m, kN/m)", 0, 0)
+        .grid("Grade2", loadGrid({"Carga", "Início", "Compr.", "Valor"}));
+    s.frame("Frame2", "Cargas concentradas no vão (m, kN, kNm)", 0, 1)
+        .grid("Grade1", loadGrid({"Carga", "Posição", "Força", "Momento"}));
+    s.frame("Frame3", "Momentos nas extremidades", 1, 0)
         .box("Text1", "Xa (kNm)=", "0", "", KeyFilter::SignedNumber)
-        .box("Text2", "Xb (kNm)=", "0", "", KeyFilter::SignedNumber)
+        .box("Text2", "Xb (kNm)=", "0", "", KeyFilter::SignedNumber);
+    s.frame("Frame4", "Convenção de sinais", 1, 1)
         .label("Label1", "Forças positivas: dirigidas para baixo")
-        .label("Label2", "Momentos positivos: sentido horário")
+        .label("Label2", "Momentos positivos: sentido horário");
+    s.frame("Frame5", "", 2, 0, 1, 2)
         .label("Label3", "Utilize as setas do teclado para se deslocar dentro das grades")
         .command("Command1", "Ver carregamento")
         .command("Command2", "&OK");

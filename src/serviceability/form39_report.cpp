@@ -127,8 +127,9 @@ Drawing loadedSpanDrawing(const SpanLoads& loads) {
             g.text({x, -26}, formatPlain(p.moment) + " kNm", 8, TextAlign::Centre, colours::green);
         }
     }
-    if (loads.xa != 0) g.text({-2, -8}, "XA = " + formatPlain(loads.xa) + " kNm", 8, TextAlign::Left, colours::green);
-    if (loads.xb != 0) g.text({102, -8}, "XB = " + formatPlain(loads.xb) + " kNm", 8, TextAlign::Right, colours::green);
+    // End moments under their supports, clear of the loads above the beam.
+    if (loads.xa != 0) g.text({4, 7.5}, "XA = " + formatPlain(loads.xa) + " kNm", 8, TextAlign::Left, colours::green);
+    if (loads.xb != 0) g.text({96, 7.5}, "XB = " + formatPlain(loads.xb) + " kNm", 8, TextAlign::Right, colours::green);
     return g;
 }
 
