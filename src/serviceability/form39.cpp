@@ -48,7 +48,6 @@ ScreenDecl mainScreen() {
         .box("Text1", "fck(MPa) =", "20")
         .box("Text2", "Ecs(MPa)=", "25757")
         .box("Text3", "j =", "2.5")
-        .tip("Coeficiente de fluência")
         .box("Text4", "Deformação imposta", "0.00050")
         .box("Text5", "Es(GPa)=", "200");
     s.frame("Frame2", "Tipo de seção", 1, 0)

@@ -59,6 +59,14 @@ private slots:
 
     void serviceBeamThroughItsLoadTablesToTheResults() {
         QVERIFY(user->open("Form39"));
+        QVERIFY(!user->control("Form39", "Text15")->isVisible());
+        auto option = [&](const char* name) {
+            qobject_cast<QAbstractButton*>(user->control("Form39", name))->click();
+            settle();
+        };
+        option("Option2");  // the T frame takes the place of the rectangle's
+        QVERIFY(user->control("Form39", "Text15")->isVisible() && !user->control("Form39", "Text9")->isVisible());
+        option("Option1");
         for (auto [box, text] : {std::pair{"Text6", "6"}, {"Text7", "1"}, {"Text8", "0"}, {"Text9", "20"},
                                  {"Text10", "50"}, {"Text11", "5"}, {"Text12", "4"}, {"Text13", "6"}, {"Text14", "0"}})
             user->type("Form39", box, text);
