@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "basis/materials.h"
+
 namespace morve {
 
 double midspanDeflection(const std::vector<double>& chi, double span) {
@@ -17,10 +19,7 @@ double midspanDeflection(const std::vector<double>& chi, double span) {
     return w;
 }
 
-double ServiceMaterials::fctm() const {
-    const double mpa = fck <= 50 ? 0.3 * std::cbrt(fck * fck) : 2.12 * std::log(1 + 0.11 * fck);
-    return mpa / 10;
-}
+double ServiceMaterials::fctm() const { return meanTensileStrength(fck) / 10; }
 
 namespace {
 
