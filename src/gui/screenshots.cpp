@@ -131,6 +131,22 @@ bool beamShots(MorveApp& app, const QString& folder) {
         press(*host, "Form10b.Command3");
         ok &= saveScreen(*host, "Form10c", folder, "form10c.png");
     }
+    if (ModuleHost* host = open(app, "Form39")) {  // the example of its help page, with a point load added
+        fill(*host, {{"Text6", "6"}, {"Text7", "1"}, {"Text8", "1"}, {"Text9", "20"}, {"Text10", "50"},
+                     {"Text11", "5"}, {"Text12", "4"}, {"Text13", "6"}, {"Text14", "0"}, {"List1", "12.5"}});
+        ok &= saveScreen(*host, "Form39", folder, "form39.png");
+        press(*host, "Command8");
+        host->session().state().grid("Form39b.Grade2")[1] = {"1", "0", "6", "20"};
+        host->session().state().grid("Form39b.Grade1")[1] = {"1", "2", "15", "0"};
+        fill(*host, {{"Form39b.Text1", "-20"}});
+        ok &= saveScreen(*host, "Form39b", folder, "form39b.png");
+        press(*host, "Form39b.Command1");
+        ok &= saveScreen(*host, "Form39b2", folder, "form39b2.png");
+        press(*host, "Form39b2.Command1");
+        press(*host, "Form39b.Command2");
+        press(*host, "Command3");
+        ok &= saveScreen(*host, "Form39c", folder, "form39c.png");
+    }
     setGuiPrompter(nullptr);
     return ok;
 }
