@@ -18,13 +18,7 @@ constexpr int kNb = band_limits::kSemiBandwidth;
 const BandMatrix& spdBand() {
     static const BandMatrix a = [] {
         std::mt19937 rng(5);
-        std::uniform_real_distribution<double> u(-1.0, 1.0);
-        BandMatrix m(kN, kNb);
-        for (int i = 1; i <= kN; ++i) {
-            m(i, 1) = 2.0 * kNb + u(rng);
-            for (int c = 2; c <= kNb && i + c - 1 <= kN; ++c) m(i, c) = u(rng);
-        }
-        return m;
+        return lapack::randomSpd(kN, kNb, rng);
     }();
     return a;
 }

@@ -12,16 +12,7 @@ using namespace morve;
 
 namespace {
 
-// A random symmetric band matrix made positive definite by a dominant diagonal.
-BandMatrix randomSpd(int n, int nb, std::mt19937& rng) {
-    std::uniform_real_distribution<double> u(-1.0, 1.0);
-    BandMatrix a(n, nb);
-    for (int i = 1; i <= n; ++i) {
-        a(i, 1) = 2.0 * nb + u(rng);
-        for (int m = 2; m <= nb && i + m - 1 <= n; ++m) a(i, m) = u(rng);
-    }
-    return a;
-}
+using lapack::randomSpd;
 
 TEST(BandSolver, AgreesWithLapackOnRandomSpdSystems) {
     std::mt19937 rng(7);
