@@ -16,7 +16,7 @@ constexpr double kLeft = 586, kRight = 8172;  // picture units across the beam
 constexpr Colour kCurve{255, 0, 0};
 
 double scaleX(double total, double x) {
-    return kLeft + x * (kRight - kLeft) / total;
+    return kLeft + x / total * (kRight - kLeft);
 }
 
 std::vector<double> nodeAbscissae(const BeamModel& m) {
@@ -182,7 +182,7 @@ Drawing deformedShape(const AnalysedBeam& beam) {
     const double scale = r < 1e-8 ? 0 : 0.8 * kHeight / r;
     const double axis = kHeight / 2 - 0.5 * (wmax + wmin) * scale;
     const double total = beam.results.totalLength;
-    auto sx = [&](double x) { return kX0 + x * (kX1 - kX0) / total; };
+    auto sx = [&](double x) { return kX0 + x / total * (kX1 - kX0); };
     g.line({kX0, axis}, {kX1, axis}, colours::black, 1);
     std::vector<Point> curve;
     double x0 = 0, extreme = 0;
