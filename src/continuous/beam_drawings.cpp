@@ -74,17 +74,17 @@ Drawing beamPicture(const BeamModel& m, bool loads) {
     Drawing g;
     const double total = totalOf(m);
     if (!(total > 0) || !std::isfinite(total)) return g;
-    g.left = kLeft - 400, g.right = kRight + 400, g.top = 0, g.bottom = 1400;
+    g.left = kLeft - 400, g.right = kRight + 400, g.top = 250, g.bottom = 1300;
     const double y = 800;
     const std::vector<double> nodes = nodeAbscissae(m);
     g.line({kLeft, y}, {kRight, y}, colours::black, 3);
     for (std::size_t j = 0; j < nodes.size(); ++j) {
         const double x = scaleX(total, nodes[j]);
         g.circle({x, y}, 14, colours::black, true);
-        g.text({x, y + 380}, std::to_string(j + 1), 8, TextAlign::Centre, colours::grey);
+        g.text({x, y + 230}, std::to_string(j + 1), 8, TextAlign::Centre, colours::grey);
     }
     for (std::size_t i = 0; i < m.length.size(); ++i)
-        g.dimension({scaleX(total, nodes[i]), y + 280}, {scaleX(total, nodes[i + 1]), y + 280},
+        g.dimension({scaleX(total, nodes[i]), y + 360}, {scaleX(total, nodes[i + 1]), y + 360},
                     formatResult(m.length[i], 2), 0, 60, colours::grey);
     for (const BeamSupport& s : m.supports)
         if (s.node >= 1 && s.node <= static_cast<int>(nodes.size()))
@@ -107,7 +107,7 @@ Drawing beamPicture(const BeamModel& m, bool loads) {
         const double sx = scaleX(total, x);
         if (p != 0) {
             arrowDown(g, sx, y - 300, y - 20);
-            g.text({sx + 30, y - 330}, formatResult(p, 2), 8, TextAlign::Left, colours::blue);
+            g.text({sx + 30, y - 200}, formatResult(p, 2), 8, TextAlign::Left, colours::blue);
         }
         if (mo != 0) couple(g, sx, y, mo);
     };
@@ -144,13 +144,16 @@ Drawing diagram(const AnalysedBeam& beam, Quantity q) {
         for (const DiagramPoint& p : s.points) curve.push_back(at(p.x, value(p)));
     curve.push_back(at(total, 0));
     g.polyline(curve, false, kCurve, 2);
-    double x0 = 0;
+    double x0 = 0, previousEnd = 0;
     const int n = m.spans();
     for (int i = 0; i < n; ++i) {
         const SpanResult& s = beam.results.spans[i];
         const double l = m.length[i];
         const double a = q == Quantity::Moment ? s.ma : s.va, b = q == Quantity::Moment ? s.mb : s.vb;
-        valueLabel(g, {at(x0, a).x + 60, at(x0, a).y}, a, TextAlign::Left);
+        // At an interior support the value is written once when both sides agree.
+        if (i == 0 || formatResult(a, 2) != formatResult(previousEnd, 2))
+            valueLabel(g, {at(x0, a).x + 60, at(x0, a).y}, a, TextAlign::Left);
+        previousEnd = b;
         const Point end = at(x0 + l, b);
         valueLabel(g, {i == n - 1 ? end.x - 160 : end.x + 60, end.y}, b,
                    i == n - 1 ? TextAlign::Right : TextAlign::Left);

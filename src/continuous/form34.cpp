@@ -331,8 +331,8 @@ std::vector<ScreenDecl> Form34::screens() const {
     ScreenBuilder outline("Form34b2", "Dados da viga", false);
     outline.frame("Frame1", "", 0, 0).picture("Picture1", 760, 260).command("Command1", "&Voltar");
     ScreenBuilder loaded("Form34c2", "Carregamento", false);
-    loaded.frame("Frame1", "", 0, 0)
-        .picture("Picture1", 760, 300)
+    loaded.frame("Frame1", "", 0, 0).picture("Picture1", 760, 300);
+    loaded.frame("Frame2", "", 1, 0)
         .label("Label1", "Vãos : m  ;  Carga distribuída: kN/m ;  Carga concentrada: kN ;  Momento: kNm")
         .command("Command1", "&Voltar");
 
@@ -349,7 +349,7 @@ std::vector<ScreenDecl> Form34::screens() const {
         .grid("Grade3", results({"Vão", "Ma", "Mb", "M máx"}))
         .label("Label4", "(O momento é positivo quando traciona a face inferior)");
     tables.frame("Frame4", "Esforços para dimensionamento", 1, 1)
-        .grid("Grade4", results({"Vão", "V máx", "M positivo", "Apoio", "M apoio"}));
+        .grid("Grade4", results({"Vão", "V", "M vão", "Apoio", "M apoio"}));
     tables.frame("Frame5", "", 2, 0, 1, 2).command("Command2", "OK");
 
     ScreenBuilder diagrams("Form34e", "Diagramas de esforços", false);
