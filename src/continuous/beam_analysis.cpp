@@ -7,7 +7,6 @@ namespace morve {
 
 namespace {
 
-constexpr int kBeamBandwidth = 4;  // two nodes of two dof
 
 // The end actions of one bar and its diagram points, from the displacements.
 struct BarActions {

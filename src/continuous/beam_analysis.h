@@ -17,6 +17,8 @@ inline constexpr int kBeamMaxSupports = 20;
 inline constexpr int kBeamMaxBarLoads = 20;
 inline constexpr int kBeamMaxSegments = 40;
 inline constexpr int kBeamPoints = 101;
+inline constexpr int kBeamBandwidth = 4;  // two nodes of two dof
+inline constexpr int kBeamElementOrder = 4;
 // The reactions table of the program holds ten restrained displacements.
 inline constexpr int kBeamMaxReactions = 10;
 

@@ -229,6 +229,10 @@ Outcome calculate(FormState& s, Prompter& prompter) {
     CheckSequence checks(prompter);
     std::optional<BeamModel> model = readBeam(s, checks);
     if (!model) return checks.outcome();
+    const std::string tooLarge = bandLimitMessage(
+        {model->equations(), kBeamBandwidth, static_cast<int>(beamRestraints(*model).size()), kBeamElementOrder});
+    checks.warnIf(!tooLarge.empty(), tooLarge, "Command8");
+    if (checks.stopped()) return checks.outcome();
     const BeamResults r = analyseBeam(*model);
     checks.warnIf(r.status == BeamStatus::Singular, txt34::kSingular)
         .warnIf(r.status == BeamStatus::TooManyReactions, txt34::kTooManyReactions, "Command8")

@@ -4,6 +4,20 @@
 
 namespace morve {
 
+std::string bandLimitMessage(const BandSize& s) {
+    using namespace band_limits;
+    if (s.equations > kEquations)
+        return "Este programa está limitado a 2406 equações (802 nós com 3 graus de liberdade). Revise os dados.";
+    if (s.semiBandwidth > kSemiBandwidth)
+        return "A semilargura de banda da matriz de rigidez passa de 200. Numere os nós de modo que os nós de "
+               "cada barra fiquem mais próximos.";
+    if (s.restraints > kRestraints)
+        return "Este programa está limitado a 120 deslocamentos impedidos nos apoios. Revise os dados.";
+    if (s.elementOrder > kElementOrder)
+        return "Este programa está limitado a elementos com até 12 graus de liberdade.";
+    return {};
+}
+
 bool BandCholesky(BandMatrix& band) {
     const int n = band.size();
     const int nb = band.bandwidth();

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cassert>
 #include <cstddef>
+#include <string>
 #include <vector>
 
 namespace morve {
@@ -18,6 +19,18 @@ inline constexpr int kSemiBandwidth = 200;
 inline constexpr int kRestraints = 120;
 inline constexpr int kElementOrder = 12;
 }  // namespace band_limits
+
+// The size of a band problem as a screen is about to build it.
+struct BandSize {
+    int equations = 0;
+    int semiBandwidth = 1;
+    int restraints = 0;
+    int elementOrder = 1;
+};
+
+// The message that stops a screen whose problem passes a limit of the solver, ""
+// when it fits.
+std::string bandLimitMessage(const BandSize& size);
 
 // The upper half-band of a symmetric matrix: (i, 1) is the diagonal of equation i,
 // (i, m) the term (i, i + m - 1). Rows are contiguous, so that a row of the factor

@@ -204,7 +204,7 @@ bool finitePicture(const Drawing& d) {
 }
 
 TEST(Form34, HostileTextsEndInAResultOrAMessage) {
-    const std::string hostile[] = {"", "abc", "1e308", "-0", "-1", "99999999", "0.0000001", "1" + std::string(308, '0')};
+    const std::string hostile[] = {"", "abc", "1e308", "-0", "-1", "99999999", "0.0000001", "1" + std::string(308, '0'), "1" + std::string(400, '0')};
     BeamRun base = twoSpans();
     std::vector<std::pair<std::string, std::pair<int, int>>> places;
     for (const char* box : {"Text1", "Text2", "Text8", "Text3", "Text4", "Text7"}) places.push_back({box, {-1, -1}});

@@ -121,6 +121,13 @@ TEST(BandAssembly, WidthAndTermsMatchADenseAssembly) {
     EXPECT_FALSE(BandAssemble(narrow, k, inc, 1, nd));
 }
 
+TEST(BandLimits, EachLimitOfTheScreensHasItsMessage) {
+    EXPECT_EQ(bandLimitMessage({2406, 200, 120, 12}), "");
+    for (const BandSize& over : {BandSize{2407, 200, 120, 12}, BandSize{2406, 201, 120, 12},
+                                 BandSize{2406, 200, 121, 12}, BandSize{2406, 200, 120, 13}})
+        EXPECT_NE(bandLimitMessage(over), "");
+}
+
 TEST(BandRestraints, RestrainedDofTakeTheirLoadAndTheRestSolvesTheRemainingEquations) {
     std::mt19937 rng(11);
     const int n = 12, nb = 4, nd = 2;
