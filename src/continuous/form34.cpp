@@ -377,6 +377,14 @@ std::vector<ScreenDecl> Form34::screens() const {
             loaded.build(),  tables.build(), diagrams.build(), deformed.build()};
 }
 
+void Form34::load(FormState& state, const StartDefaults& defaults) const {
+    if (readNumber(defaults.list(1)) <= 0) return;
+    state.setText("Text1", defaults.list(1));
+    // The modulus of the start dialog in whole MPa, as the window's own 25757 is
+    // for fck 20 by CEB/90.
+    state.setText("Text2", formatPlain(std::trunc(defaults.ecs)));
+}
+
 Outcome Form34::press(const std::string& command, FormState& s, Prompter& prompter) const {
     const std::string c = s.qualify(command);
     if (c == "Form34.Command8") return beamData(s, prompter);

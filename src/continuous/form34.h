@@ -12,6 +12,7 @@ class Form34 : public Module {
 public:
     ModuleInfo info() const override;
     std::vector<ScreenDecl> screens() const override;
+    void load(FormState& state, const StartDefaults& defaults) const override;
     Outcome press(const std::string& command, FormState& state, Prompter& prompter) const override;
     void report(const std::string& key, const FormState& state, ReportWriter& out) const override;
     Drawing drawing(const std::string& picture, const FormState& state) const override;
