@@ -62,6 +62,8 @@ void writeForm34Report(const FormState& s, ReportWriter& out) {
             out.write("Vão ", std::to_string(r), tab(10), "Ma= ", cellOf(s, moments, r, 1), tab(30), "Mb= ",
                       cellOf(s, moments, r, 2), " kNm");
     }
+    // The pictures start on a page of their own.
+    out.write("... Continua");
     out.pageBreak();
 
     const std::optional<AnalysedBeam> beam = lastAnalysis(s);

@@ -182,6 +182,11 @@ TEST(Form34, TwoSpansEndToEnd) {
     EXPECT_TRUE(has("Engastamento elástico nos pilares: Não considerado"));
     EXPECT_TRUE(has("Momentos iniciais devidos ao vento: Não considerado"));
     EXPECT_TRUE(has("c) MOMENTOS NOS APOIOS:"));
+    EXPECT_TRUE(has("Apoio= 2 M= -31.25 kNm"));
+    const auto brk = std::find(report.begin(), report.end(), "\f");
+    ASSERT_NE(brk, report.end());
+    EXPECT_EQ(*(brk - 1), "... Continua");
+    EXPECT_EQ(*(brk + 1), "CARREGAMENTO VERTICAL:");
     EXPECT_EQ(std::count(report.begin(), report.end(), "[figura]"), 4);
     for (const char* picture : {"Form34e.Picture1", "Form34e.Picture2", "Form34g.Picture1", "Form34c2.Picture1"})
         EXPECT_FALSE(run.session.module().drawing(picture, s).empty()) << picture;
