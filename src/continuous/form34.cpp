@@ -27,10 +27,7 @@ GridDecl table(std::vector<std::string> header, int maxRows, KeyFilter filter, b
     return g;
 }
 
-GridDecl results(std::vector<std::string> header) {
-    GridDecl g = table(std::move(header), 0, KeyFilter::None, true);
-    return g;
-}
+GridDecl results(std::vector<std::string> header) { return table(std::move(header), 0, KeyFilter::None, true); }
 
 // A table takes `rows` data rows; the cells already typed in the rows that stay are
 // kept, new cells are blank, and a numbered table numbers its rows.
