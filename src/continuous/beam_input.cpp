@@ -45,52 +45,53 @@ void checkLoadCounts(CheckSequence& checks, int nodal, int bar, int segments, in
         .warnIf(segments > kBeamMaxSegments, txt34::kMaxSegments, "Text7");
 }
 
-void readNodalLoads(const FormState& s, BeamModel& m, CheckSequence& checks) {
+void readNodalLoads(const FormState& s, BeamModel& m, CheckSequence& checks, const std::string& focus) {
     const std::string grid = "Form34c.Grade1";
     const int n = m.spans(), rows = dataRows(s, grid);
     double sum = 0;
     for (int r = 1; r <= rows && !checks.stopped(); ++r) {
         NodalLoad p{indexIn(s.cellNumber(grid, r, 0)), s.cellNumber(grid, r, 1), s.cellNumber(grid, r, 2)};
-        checks.warnIf(p.node < 1 || p.node > n + 1, txt34::kNodalNode, "Command4");
+        checks.warnIf(p.node < 1 || p.node > n + 1, txt34::kNodalNode, focus);
         sum += std::abs(p.force) + std::abs(p.moment);
         m.nodalLoads.push_back(p);
     }
-    checks.warnIf(rows > 0 && sum == 0, txt34::kNodalZero, "Command4");
+    checks.warnIf(rows > 0 && sum == 0, txt34::kNodalZero, focus);
 }
 
-void readBarLoads(const FormState& s, BeamModel& m, CheckSequence& checks, const std::string& zeroMessage) {
+void readBarLoads(const FormState& s, BeamModel& m, CheckSequence& checks, const std::string& zeroMessage,
+                  const std::string& focus) {
     const std::string grid = "Form34c.Grade2";
     const int n = m.spans(), rows = dataRows(s, grid);
     double sum = 0;
     for (int r = 1; r <= rows && !checks.stopped(); ++r) {
         BarLoad p{indexIn(s.cellNumber(grid, r, 0)), s.cellNumber(grid, r, 1), s.cellNumber(grid, r, 2),
                   s.cellNumber(grid, r, 3)};
-        checks.warnIf(p.bar < 1 || p.bar > n, txt34::kBarLoadSpan, "Command4");
+        checks.warnIf(p.bar < 1 || p.bar > n, txt34::kBarLoadSpan, focus);
         if (checks.stopped()) break;
-        checks.warnIf(!(p.a > 0 && p.a < m.length[p.bar - 1]), txt34::kBarLoadPlace, "Command4");
+        checks.warnIf(!(p.a > 0 && p.a < m.length[p.bar - 1]), txt34::kBarLoadPlace, focus);
         sum += std::abs(p.force) + std::abs(p.moment);
         m.barLoads.push_back(p);
     }
-    checks.warnIf(rows > 0 && sum == 0, zeroMessage, "Command4");
+    checks.warnIf(rows > 0 && sum == 0, zeroMessage, focus);
 }
 
-void readSegments(const FormState& s, BeamModel& m, CheckSequence& checks) {
+void readSegments(const FormState& s, BeamModel& m, CheckSequence& checks, const std::string& focus) {
     const std::string grid = "Form34c.Grade3";
     const int n = m.spans(), rows = dataRows(s, grid);
     double sum = 0;
     for (int r = 1; r <= rows && !checks.stopped(); ++r) {
         UniformSegment p{indexIn(s.cellNumber(grid, r, 0)), s.cellNumber(grid, r, 1), s.cellNumber(grid, r, 2),
                          s.cellNumber(grid, r, 3)};
-        checks.warnIf(p.bar < 1 || p.bar > n, txt34::kSegmentSpan, "Command4");
+        checks.warnIf(p.bar < 1 || p.bar > n, txt34::kSegmentSpan, focus);
         if (checks.stopped()) break;
         const double l = m.length[p.bar - 1];
         // Only the length is bounded: a segment may run past the end of its bar.
-        checks.warnIf(p.start < 0 || p.start > l, txt34::kSegmentStart, "Command4")
-            .warnIf(p.length < 0 || p.length > l, txt34::kSegmentLength, "Command4");
+        checks.warnIf(p.start < 0 || p.start > l, txt34::kSegmentStart, focus)
+            .warnIf(p.length < 0 || p.length > l, txt34::kSegmentLength, focus);
         sum += std::abs(p.q);
         m.segments.push_back(p);
     }
-    checks.warnIf(rows > 0 && sum == 0, txt34::kSegmentZero, "Command4");
+    checks.warnIf(rows > 0 && sum == 0, txt34::kSegmentZero, focus);
 }
 
 std::optional<BeamModel> readBeam(const FormState& s, CheckSequence& checks) {
@@ -121,9 +122,9 @@ std::optional<BeamModel> readBeam(const FormState& s, CheckSequence& checks) {
     }
     if (checks.stopped()) return std::nullopt;
 
-    readNodalLoads(s, m, checks);
-    readBarLoads(s, m, checks, txt34::kBarLoadZero);
-    readSegments(s, m, checks);
+    readNodalLoads(s, m, checks, "Command4");
+    readBarLoads(s, m, checks, txt34::kBarLoadZero, "Command4");
+    readSegments(s, m, checks, "Command4");
     if (checks.stopped()) return std::nullopt;
 
     for (int r = 1; r <= supports && !checks.stopped(); ++r) {

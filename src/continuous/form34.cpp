@@ -154,9 +154,9 @@ std::optional<BeamModel> readLoadedOutline(const FormState& s, CheckSequence& ch
     std::optional<BeamModel> m =
         readOutline(s, checks, {txt34::kBackLengths, txt34::kBackSupportNodes, txt34::kBackSupportTypes});
     if (!m) return m;
-    readNodalLoads(s, *m, checks);
-    readSegments(s, *m, checks);
-    readBarLoads(s, *m, checks, txt34::kBarLoadZeroTable);
+    readNodalLoads(s, *m, checks, "");
+    readSegments(s, *m, checks, "");
+    readBarLoads(s, *m, checks, txt34::kBarLoadZeroTable, "");
     if (checks.stopped()) return std::nullopt;
     return m;
 }

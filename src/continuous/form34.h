@@ -39,10 +39,12 @@ void keepAnalysedInputs(FormState& state);
 
 int countIn(const FormState& state, const std::string& box);
 int dataRows(const FormState& state, const std::string& grid);
-// The load tables into the model (its spans already read), each with its checks.
-void readNodalLoads(const FormState& state, BeamModel& model, CheckSequence& checks);
-void readBarLoads(const FormState& state, BeamModel& model, CheckSequence& checks, const std::string& zeroMessage);
-void readSegments(const FormState& state, BeamModel& model, CheckSequence& checks);
+// The load tables into the model (its spans already read), each with its checks;
+// a failed check leaves the focus on `focus`.
+void readNodalLoads(const FormState& state, BeamModel& model, CheckSequence& checks, const std::string& focus);
+void readBarLoads(const FormState& state, BeamModel& model, CheckSequence& checks, const std::string& zeroMessage,
+                  const std::string& focus);
+void readSegments(const FormState& state, BeamModel& model, CheckSequence& checks, const std::string& focus);
 void checkSpanCount(CheckSequence& checks, int n);
 void checkSupportCount(CheckSequence& checks, int supports, int n);
 void checkLoadCounts(CheckSequence& checks, int nodal, int bar, int segments, int n);

@@ -160,6 +160,41 @@ TEST(Form34, CalculateChecksInOrder) {
                "Form34.Command8");
 }
 
+TEST(Form34, PictureButtonsCheckTheirTablesWithTheirOwnWords) {
+    using Edit = std::function<void(FormState&)>;
+    const struct {
+        const char* what;
+        Edit edit;
+        std::string command, text;
+    } cases[] = {
+        {"blank length", [](FormState& s) { s.grid("Form34b.Grade1")[2][1] = " "; }, "Form34b.Command1", txt34::kAllLengths},
+        {"support node", [](FormState& s) { s.grid("Form34b.Grade2")[1][0] = "9"; }, "Form34b.Command1", txt34::kBadSupportNode},
+        {"support type", [](FormState& s) { s.grid("Form34b.Grade2")[1][1] = "0"; }, "Form34b.Command1", txt34::kBadSupportType},
+        {"back to the lengths", [](FormState& s) { s.grid("Form34b.Grade1")[1][1] = "0"; }, "Form34c.Command1", txt34::kBackLengths},
+        // Segments are checked before the concentrated loads, and the latter have
+        // a zero-sum message of their own here.
+        {"segments first",
+         [](FormState& s) {
+             s.grid("Form34c.Grade3")[1][0] = "7";
+             s.grid("Form34c.Grade2") = {{"Vão", "a", "P", "M"}, {"9", "1", "1", "0"}};
+         },
+         "Form34c.Command1", txt34::kSegmentSpan},
+        {"bar loads all zero",
+         [](FormState& s) { s.grid("Form34c.Grade2") = {{"Vão", "a", "P", "M"}, {"1", "1", "0", "0"}}; },
+         "Form34c.Command1", txt34::kBarLoadZeroTable},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        BeamRun run = twoSpans();
+        c.edit(run.session.state());
+        expectStop(run.prompter, run.press(c.command), c.text, MessageKind::Warning, "");
+    }
+    BeamRun run = twoSpans();
+    const Outcome shown = run.press("Form34c.Command1");
+    EXPECT_TRUE(shown.completed);
+    EXPECT_EQ(shown.effects.back(), (ScreenEffect{EffectKind::ShowScreen, "Form34c2"}));
+}
+
 TEST(Form34, TwoSpansEndToEnd) {
     BeamRun run = twoSpans();
     const Outcome o = run.press("Command3");
