@@ -285,7 +285,7 @@ std::vector<ScreenDecl> Form34::screens() const {
         .command("Command4", "Cargas")
         .command("Command12", "Momentos iniciais");
     main.frame("Frame5", "", 2, 0, 1, 2)
-        .command("Command3", "CALCULAR")
+        .command("Command3", "&CALCULAR")
         .command("Command10", "Diagramas de esforços").disabled()
         .command("Command1", "Deformada").disabled();
 
@@ -296,12 +296,12 @@ std::vector<ScreenDecl> Form34::screens() const {
         .command("Command5", "Repetir a última linha");
     bars.frame("Frame2", "Apoios", 0, 1)
         .grid("Grade2", table({"Nó", "Tipo", "Ig (cm3)"}, kBeamMaxSupports, KeyFilter::Digit, false))
-        .label("Label1", "Tipo 1: Apoio simples;  Tipo 2: Engaste")
+        .label("Label1", "Tipo 1: Apoio simples;  Tipo 2: Engaste");
+    bars.frame("Frame3", "", 1, 0, 1, 2)
         .label("Label2", "Ig = 6(Isup/Lsup+Iinf/Linf)")
         .label("Label3", "Ig = inércia equivalente dos pilares")
         .label("Label4", "Isup , Lsup = inércia e altura do pilar superior")
-        .label("Label5", "Inf , Linf = inércia e altura do pilar inferior");
-    bars.frame("Frame3", "", 1, 0, 1, 2)
+        .label("Label5", "Inf , Linf = inércia e altura do pilar inferior")
         .label("Label6", "Utilize as setas do teclado para se deslocar dentro das grades")
         .command("Command1", "Ver desenho")
         .command("Command2", "OK");

@@ -152,9 +152,11 @@ bool continuousShots(MorveApp& app, const QString& folder) {
     bool ok = true;
     if (ModuleHost* host = open(app, "Form34")) {
         fill(*host, {{"Text1", "25"}, {"Text2", "28000"}, {"Text3", "3"}, {"Text4", "4"}, {"Text6", "1"}, {"Text7", "3"}});
+        ok &= saveScreen(*host, "Form34", folder, "form34.png");
         press(*host, "Command8");
         fillRows(*host, "Form34b.Grade1", {{"1", "4", "208333"}, {"2", "5", "208333"}, {"3", "4", "208333"}});
         fillRows(*host, "Form34b.Grade2", {{"1", "2", "0"}, {"2", "1", "0"}, {"3", "1", "0"}, {"4", "1", "0"}});
+        ok &= saveScreen(*host, "Form34b", folder, "form34b.png");
         press(*host, "Form34b.Command2");
         press(*host, "Command4");
         fillRows(*host, "Form34c.Grade2", {{"2", "2.5", "30", "0"}});

@@ -77,7 +77,6 @@ TEST(Form34, OpensWithTheConcreteOfTheStartDialog) {
     ModuleSession session(*ModuleRegistry::find("Form34"), thirty);
     EXPECT_EQ(session.state().text("Text1"), "30");
     EXPECT_EQ(session.state().text("Text2"), "28517");  // 18275 (3.8)^(1/3) by CEB/90
-    EXPECT_EQ(ModuleSession(*ModuleRegistry::find("Form34"), StartDefaults{}).state().text("Text2"), "25757");
 }
 
 TEST(Form34, TablesKeepWhatWasTypedWhenACountGrows) {
@@ -137,25 +136,22 @@ TEST(Form34, CalculateChecksInOrder) {
     atEnd.session.state().grid("Form34c.Grade2")[1] = {"1", "5", "10", "0"};
     expectStop(atEnd.prompter, atEnd.press("Command3"), txt34::kBarLoadPlace, MessageKind::Warning, "Form34.Command4");
 
-    // One simple support, and eleven restrained displacements.
-    BeamRun one("Form34");
-    one.set({{"Text3", "1"}, {"Text4", "1"}, {"Text5", "1"}});
-    one.press("Command8");
-    one.session.state().grid("Form34b.Grade1")[1] = {"1", "4", "1000"};
-    one.session.state().grid("Form34b.Grade2")[1] = {"1", "1", "0"};
-    one.press("Command4");
-    one.session.state().grid("Form34c.Grade1")[1] = {"2", "10", "0"};
+    // One simple support, and eleven restrained displacements (ten spans of 3 m on
+    // simple supports at every node).
+    auto typed = [](int spans, int supports) {
+        BeamRun run("Form34");
+        run.set({{"Text3", std::to_string(spans)}, {"Text4", std::to_string(supports)}, {"Text5", "1"}});
+        run.press("Command8");
+        FormState& s = run.session.state();
+        for (int i = 1; i <= spans; ++i) s.grid("Form34b.Grade1")[i] = {std::to_string(i), "3", "1000"};
+        for (int j = 1; j <= supports; ++j) s.grid("Form34b.Grade2")[j] = {std::to_string(j), "1", "0"};
+        run.press("Command4");
+        s.grid("Form34c.Grade1")[1] = {"2", "10", "0"};
+        return run;
+    };
+    BeamRun one = typed(1, 1);
     expectStop(one.prompter, one.press("Command3"), txt34::kHypostatic, MessageKind::Warning, "Form34.Command8");
-
-    BeamRun many("Form34");
-    many.set({{"Text3", "10"}, {"Text4", "11"}, {"Text5", "1"}});
-    many.press("Command8");
-    for (int i = 1; i <= 11; ++i) {
-        if (i <= 10) many.session.state().grid("Form34b.Grade1")[i] = {std::to_string(i), "3", "1000"};
-        many.session.state().grid("Form34b.Grade2")[i] = {std::to_string(i), "1", "0"};
-    }
-    many.press("Command4");
-    many.session.state().grid("Form34c.Grade1")[1] = {"2", "10", "0"};
+    BeamRun many = typed(10, 11);
     expectStop(many.prompter, many.press("Command3"), txt34::kTooManyReactions, MessageKind::Warning,
                "Form34.Command8");
 }
