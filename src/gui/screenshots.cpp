@@ -151,6 +151,49 @@ bool beamShots(MorveApp& app, const QString& folder) {
     return ok;
 }
 
+// Whole rows of a module's tables, then the windows show them.
+void fillRows(ModuleHost& host, const std::string& grid, const GridRows& rows) {
+    FormState& state = host.session().state();
+    GridRows& g = state.grid(grid);
+    g.resize(1);
+    g.insert(g.end(), rows.begin(), rows.end());
+    for (const ScreenDecl& screen : host.session().module().screens())
+        if (ScreenWindow* w = host.window(screen.name)) w->loadFrom(state);
+}
+
+// The three-span beam of the examples: its results, diagrams and deformed shape.
+bool continuousShots(MorveApp& app, const QString& folder) {
+    ScriptedPrompter answers;
+    setGuiPrompter(&answers);
+    bool ok = true;
+    if (ModuleHost* host = open(app, "Form34")) {
+        fill(*host, {{"Text1", "25"}, {"Text2", "28000"}, {"Text3", "3"}, {"Text4", "4"}, {"Text6", "1"}, {"Text7", "3"}});
+        ok &= saveScreen(*host, "Form34", folder, "form34.png");
+        press(*host, "Command8");
+        fillRows(*host, "Form34b.Grade1", {{"1", "4", "208333"}, {"2", "5", "208333"}, {"3", "4", "208333"}});
+        fillRows(*host, "Form34b.Grade2", {{"1", "2", "0"}, {"2", "1", "0"}, {"3", "1", "0"}, {"4", "1", "0"}});
+        ok &= saveScreen(*host, "Form34b", folder, "form34b.png");
+        press(*host, "Form34b.Command2");
+        press(*host, "Command4");
+        fillRows(*host, "Form34c.Grade2", {{"2", "2.5", "30", "0"}});
+        fillRows(*host, "Form34c.Grade3", {{"1", "0", "4", "15"}, {"2", "0", "5", "15"}, {"3", "0", "4", "15"}});
+        press(*host, "Form34c.Command1");
+        ok &= saveScreen(*host, "Form34c2", folder, "form34c2.png");
+        press(*host, "Form34c2.Command1");
+        press(*host, "Form34c.Command2");
+        press(*host, "Command3");
+        ok &= saveScreen(*host, "Form34d", folder, "form34d.png");
+        press(*host, "Form34d.Command2");
+        press(*host, "Command10");
+        ok &= saveScreen(*host, "Form34e", folder, "form34e.png");
+        press(*host, "Form34e.Command1");
+        press(*host, "Command1");
+        ok &= saveScreen(*host, "Form34g", folder, "form34g.png");
+    }
+    setGuiPrompter(nullptr);
+    return ok;
+}
+
 // A design and a verification of a rectangular column, with the section, the
 // interaction diagram, and the design situations of a corner column.
 bool columnShots(MorveApp& app, const QString& folder) {
@@ -267,6 +310,7 @@ int takeScreenshots(const QString& folder) {
     setGuiPrompter(nullptr);
     settle();
     ok &= beamShots(app, folder);
+    ok &= continuousShots(app, folder);
     ok &= columnShots(app, folder);
     return ok ? 0 : 1;
 }
