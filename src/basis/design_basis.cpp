@@ -41,4 +41,14 @@ DesignBasis designBasis(CheckSequence& checks, const FormState& state, double fc
     return b;
 }
 
+void checkDesignMaterials(CheckSequence& checks, const FormState& state, const DesignMaterialBoxes& boxes) {
+    double fck = state.number(boxes.fck);
+    checkConcreteRange(checks, fck, boxes.fck);
+    checkAggressiveness(checks, state.text(boxes.classList), fck, boxes.classList, boxes.fck);
+    checkPositiveFyk(checks, state.number(boxes.fyk), boxes.fyk);
+    checkPositiveEs(checks, state.number(boxes.es), boxes.es);
+    checkSteelClass(checks, state.number(boxes.fyk), boxes.fyk);
+    checkCodeModulus(checks, state.number(boxes.es), boxes.es);
+}
+
 }  // namespace morve

@@ -32,4 +32,12 @@ struct DesignBasis {
 DesignBasis designBasis(CheckSequence& checks, const FormState& state, double fck, double fyk,
                         double es, double gamac, double gamas, double gamaf, double mk);
 
+// What the bending designs of beams and slabs read and check before the arithmetic,
+// in one order: fck range, class, fyk and Es positive,
+// steel class and code modulus.
+struct DesignMaterialBoxes {
+    std::string fck, classList, fyk, es;
+};
+void checkDesignMaterials(CheckSequence& checks, const FormState& state, const DesignMaterialBoxes& boxes);
+
 }  // namespace morve

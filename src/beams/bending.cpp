@@ -71,16 +71,6 @@ const std::string& bendingStopMessage(BendingStop stop) {
     return none;
 }
 
-void checkBeamMaterials(CheckSequence& checks, const FormState& state, const BeamMaterialBoxes& boxes) {
-    double fck = state.number(boxes.fck);
-    checkConcreteRange(checks, fck, boxes.fck);
-    checkAggressiveness(checks, state.text(boxes.classList), fck, boxes.classList, boxes.fck);
-    checkPositiveFyk(checks, state.number(boxes.fyk), boxes.fyk);
-    checkPositiveEs(checks, state.number(boxes.es), boxes.es);
-    checkSteelClass(checks, state.number(boxes.fyk), boxes.fyk);
-    checkCodeModulus(checks, state.number(boxes.es), boxes.es);
-}
-
 bool applyMinimumAndRate(CheckSequence& checks, double& as, double asPrime, double ac, double fck,
                          double fyd) {
     double asMin = MinimumSteelRatio(fck, fyd * 10) * ac;

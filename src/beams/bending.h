@@ -57,14 +57,6 @@ inline const std::string kFlangeWiderThanWeb = "A largura da mesa deve ser maior
 // The message of a stop, "" for none.
 const std::string& bendingStopMessage(BendingStop stop);
 
-// What the design modules of beams read and check before the arithmetic, in the
-// same order for the rectangle and the T: fck range, class, fyk and Es positive,
-// steel class and code modulus.
-struct BeamMaterialBoxes {
-    std::string fck, classList, fyk, es;
-};
-void checkBeamMaterials(CheckSequence& checks, const FormState& state, const BeamMaterialBoxes& boxes);
-
 // The boxes where a design writes its areas and the screens of its detailing.
 struct DesignOutput {
     std::string module;            // "Form7"
