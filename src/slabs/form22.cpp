@@ -18,8 +18,7 @@ using Line = std::pair<SlabResult, const char*>;
 struct CaseLayout {
     const char* text;  // the fixed sides, as the report names them
     SupportPattern pattern;
-    const char* screen;
-    std::vector<const char*> frames;
+    ResultFrames shown;
     std::array<const char*, kSlabResults> boxes;  // "" where the case has no such result
     std::vector<Line> negatives;
     std::vector<Line> reactions;
@@ -40,27 +39,33 @@ const char* const kRyeFixed = "No lado ly engastado (x=0): Rye= ";
 const std::array<CaseLayout, 6>& layouts() {
     //     w        Mx        My        Mxe       Mye      Rx        Ry        Rxe       Rye
     static const std::array<CaseLayout, 6> table{{
-        {"Nenhum lado é engastado", {S, S, S, S}, "Form22b", {"Frame1", "Frame2"},
+        {"Nenhum lado é engastado", {S, S, S, S}, {"Form22b", {"Frame1", "Frame2"}},
          {"Text5", "Text1", "Text2", "", "", "Text3", "Text4", "", ""}, {},
          {{Rx, kRxBoth}, {Ry, kRyBoth}}},
-        {"Lado com x = 0", {F, S, S, S}, "Form22b", {"Frame4", "Frame5"},
+        {"Lado com x = 0", {F, S, S, S}, {"Form22b", {"Frame4", "Frame5"}},
          {"Text5", "Text8", "Text7", "Text11", "", "Text10", "Text9", "", "Text12"}, {{Mxe, kMxeOne}},
          {{Rx, kRxBoth}, {Ry, kRySupported}, {Rye, kRyeFixed}}},
-        {"Lados com x = 0 e x = lx", {F, F, S, S}, "Form22b", {"Frame6", "Frame7"},
+        {"Lados com x = 0 e x = lx", {F, F, S, S}, {"Form22b", {"Frame6", "Frame7"}},
          {"Text5", "Text14", "Text15", "Text13", "", "Text17", "Text18", "", ""}, {{Mxe, kMxeBoth}},
          {{Rx, kRxBoth}, {Ry, kRyBoth}}},
-        {"Lados com x = 0 e y = 0", {F, S, F, S}, "Form22c", {"Frame1", "Frame2"},
+        {"Lados com x = 0 e y = 0", {F, S, F, S}, {"Form22c", {"Frame1", "Frame2"}},
          {"Text5", "Text14", "Text15", "Text13", "Text1", "Text17", "Text18", "Text2", "Text3"},
          {{Mxe, kMxeOne}, {Mye, kMyeOne}},
          {{Rx, kRxSupported}, {Rxe, kRxeFixed}, {Ry, kRySupported}, {Rye, kRyeFixed}}},
-        {"Lados com x = 0, x = lx e y = 0", {F, F, F, S}, "Form22c", {"Frame4", "Frame5"},
+        {"Lados com x = 0, x = lx e y = 0", {F, F, F, S}, {"Form22c", {"Frame4", "Frame5"}},
          {"Text5", "Text8", "Text9", "Text7", "Text4", "Text12", "Text16", "Text11", ""},
          {{Mxe, kMxeBoth}, {Mye, kMyeOne}}, {{Rx, kRxSupported}, {Rxe, kRxeFixed}, {Ry, kRyBoth}}},
-        {"Todos os lados são engastados", {F, F, F, F}, "Form22d", {},
+        {"Todos os lados são engastados", {F, F, F, F}, {"Form22d", {}},
          {"Text5", "Text8", "Text9", "Text7", "Text4", "Text12", "Text16", "", ""},
          {{Mxe, kMxeBoth}, {Mye, "Momento negativo em y=0 e y=ly: Mye= "}}, {{Rx, kRxBoth}, {Ry, kRyBoth}}},
     }};
     return table;
+}
+
+std::vector<ResultFrames> caseFrames() {
+    std::vector<ResultFrames> all;
+    for (const CaseLayout& c : layouts()) all.push_back(c.shown);
+    return all;
 }
 
 const char* const kOptions[] = {"Option1", "Option2", "Option3", "Option4", "Option5", "Option6"};
@@ -153,7 +158,8 @@ ScreenDecl resultScreen(const std::string& name, const std::vector<int>& cases) 
     ScreenBuilder s(name, "LAJES RETANGULARES APOIADAS NOS QUATRO LADOS", false);
     for (int c : cases) {
         const CaseLayout& l = layouts()[c - 1];
-        resultFrames(s, l, l.frames.empty() ? "Frame1" : l.frames[0], l.frames.empty() ? "Frame2" : l.frames[1]);
+        const auto& f = l.shown.frames;
+        resultFrames(s, l, f.empty() ? "Frame1" : f[0], f.empty() ? "Frame2" : f[1]);
     }
     s.frame("Frame3", "Flecha", 1, 0)
         .label("Label30", "Valores em mm:")
@@ -183,16 +189,11 @@ Outcome calculate(SlabMethod method, FormState& s, Prompter& prompter) {
     const SlabLoading loading = slabLoading(s, h);
     const RectangularSlabResults r = rectangularSlab(method, caseNo, lx, ly, loading);
 
-    Outcome o = Outcome::done()
-                    .then(EffectKind::HideScreen, "Form22")
-                    .then(EffectKind::ShowScreen, "Form0b")
-                    .then(EffectKind::ShowScreen, layout.screen);
-    for (const char* f : layout.frames) o.then(EffectKind::ShowControl, std::string(layout.screen) + "." + f);
-    const std::string screen = std::string(layout.screen) + ".";
+    const std::string screen = layout.shown.screen + ".";
     for (int i = 0; i < kSlabResults; ++i)
         if (*layout.boxes[i]) writeResult(s, screen + layout.boxes[i], r.v[i]);
     writeResult(s, screen + "Text6", r.wadm);
-    return o;
+    return showResults("Form22", layout.shown);
 }
 
 }  // namespace
@@ -221,8 +222,7 @@ std::vector<ScreenDecl> Form22::screens() const {
 
 void Form22::load(FormState& state, const StartDefaults& defaults) const {
     loadSlabDefaults(state, defaults);
-    for (const CaseLayout& c : layouts())
-        for (const char* f : c.frames) state.setVisible(std::string(c.screen) + "." + f, false);
+    hideCaseFrames(state, caseFrames());
 }
 
 Outcome Form22::press(const std::string& command, FormState& state, Prompter& prompter) const {
@@ -230,23 +230,12 @@ Outcome Form22::press(const std::string& command, FormState& state, Prompter& pr
     if (c == "Command1") return calculate(SlabMethod::Plate, state, prompter);
     if (c == "Command2") return calculate(SlabMethod::Grillage, state, prompter);
     if (c == "Command3") return calculate(SlabMethod::RedistributedGrillage, state, prompter);
-    for (const char* screen : kResultScreens) {
-        const std::string prefix = std::string(screen) + ".";
-        if (command == prefix + "Command7")
-            return Outcome::done().then(EffectKind::StartReport, screen).then(EffectKind::DisableScreen, screen);
-        if (command != prefix + "Command1") continue;
-        Outcome o = Outcome::done();
-        for (const CaseLayout& l : layouts())
-            if (l.screen == std::string(screen))
-                for (const char* f : l.frames) o.then(EffectKind::HideControl, prefix + f);
-        return o.then(EffectKind::HideScreen, screen).then(EffectKind::ShowScreen, "Form22");
-    }
-    return Outcome::stop();
+    return resultScreenCommand(command, "Form22", caseFrames()).value_or(Outcome::stop());
 }
 
 void Form22::report(const std::string& key, const FormState& s, ReportWriter& out) const {
     const CaseLayout& c = layouts()[selectedCase(s) - 1];
-    if (key != c.screen) return;
+    if (key != c.shown.screen) return;
     const std::string screen = key + ".";
     auto value = [&](SlabResult i) { return s.text(screen + c.boxes[i]); };
     out.write("Lados Engastados:");
@@ -276,7 +265,7 @@ Drawing Form22::drawing(const std::string& picture, const FormState& state) cons
     for (int i = 1; i <= 6; ++i)
         if (picture == "Form22.Picture" + std::to_string(i)) return supportDrawing(layouts()[i - 1].pattern);
     for (const char* screen : kResultScreens)
-        if (picture == std::string(screen) + ".Picture1") return supportDrawing(layouts()[selectedCase(state) - 1].pattern);
+        if (picture == screen + std::string(".Picture1")) return supportDrawing(layouts()[selectedCase(state) - 1].pattern);
     return {};
 }
 

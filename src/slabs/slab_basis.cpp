@@ -151,6 +151,36 @@ Drawing supportDrawing(const SupportPattern& p) {
     return g;
 }
 
+Outcome showResults(const std::string& module, const ResultFrames& shown) {
+    Outcome o = Outcome::done()
+                    .then(EffectKind::HideScreen, module)
+                    .then(EffectKind::ShowScreen, "Form0b")
+                    .then(EffectKind::ShowScreen, shown.screen);
+    for (const std::string& f : shown.frames) o.then(EffectKind::ShowControl, shown.screen + "." + f);
+    return o;
+}
+
+std::optional<Outcome> resultScreenCommand(const std::string& command, const std::string& module,
+                                           const std::vector<ResultFrames>& cases) {
+    for (const ResultFrames& c : cases) {
+        const std::string& screen = c.screen;
+        if (command == screen + ".Command7")
+            return Outcome::done().then(EffectKind::StartReport, screen).then(EffectKind::DisableScreen, screen);
+        if (command != screen + ".Command1") continue;
+        Outcome o = Outcome::done();
+        for (const ResultFrames& other : cases)
+            if (other.screen == screen)
+                for (const std::string& f : other.frames) o.then(EffectKind::HideControl, screen + "." + f);
+        return o.then(EffectKind::HideScreen, screen).then(EffectKind::ShowScreen, module);
+    }
+    return std::nullopt;
+}
+
+void hideCaseFrames(FormState& state, const std::vector<ResultFrames>& cases) {
+    for (const ResultFrames& c : cases)
+        for (const std::string& f : c.frames) state.setVisible(c.screen + "." + f, false);
+}
+
 void writeResult(FormState& state, const std::string& box, double value) {
     state.setText(box, formatResult(value));
 }

@@ -4,10 +4,12 @@
 // long-term deflection, the admissible one, the report lines of the data, the
 // fitted coefficients in the side ratio and the picture of a support pattern.
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "app/form_state.h"
+#include "app/outcome.h"
 #include "app/screen.h"
 #include "app/start_defaults.h"
 #include "basis/checks.h"
@@ -78,6 +80,22 @@ struct SupportPattern {
 };
 // The outline in plan, hatched along the fixed sides, dashed along a free one.
 Drawing supportDrawing(const SupportPattern& pattern);
+
+// The frames of one case on a result screen.
+struct ResultFrames {
+    std::string screen;               // "Form22b"
+    std::vector<std::string> frames;  // shown for the case, hidden otherwise
+};
+// After a calculation: the module's screen gives way to the result screen with the
+// case's frames.
+Outcome showResults(const std::string& module, const ResultFrames& shown);
+// The two buttons of a result screen: "&Voltar" (Command1) hides the case frames
+// and the screen and shows the module again; "Im&primir" (Command7) starts the
+// screen's report. Nothing for another command.
+std::optional<Outcome> resultScreenCommand(const std::string& command, const std::string& module,
+                                           const std::vector<ResultFrames>& cases);
+// Every case frame hidden, as the screens open.
+void hideCaseFrames(FormState& state, const std::vector<ResultFrames>& cases);
 
 // Writes a result as the screens show it, with two decimals.
 void writeResult(FormState& state, const std::string& box, double value);
