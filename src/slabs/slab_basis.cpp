@@ -65,14 +65,19 @@ void checkSlabThickness(CheckSequence& checks, double hCm, const std::string& bo
     checks.confirmIf(hCm < 7, kThinSlab, box);
 }
 
-SlabLoading slabLoading(const FormState& s, double hCm) {
+SlabLoading slabStiffness(const FormState& s, double hCm) {
     SlabLoading l;
-    const double g = s.number("Text4"), q = s.number("Text5");
-    l.p = g + q;
-    l.pqp = g + 0.3 * q;
     const double h = hCm / 100, ecs = s.number("Text2") * 1000;
     l.d = ecs * h * h * h / (12 * (1 - kSlabPoisson * kSlabPoisson));
     l.creep = s.number("Text3");
+    return l;
+}
+
+SlabLoading slabLoading(const FormState& s, double hCm) {
+    SlabLoading l = slabStiffness(s, hCm);
+    const double g = s.number("Text4"), q = s.number("Text5");
+    l.p = g + q;
+    l.pqp = g + 0.3 * q;
     return l;
 }
 

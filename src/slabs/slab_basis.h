@@ -45,7 +45,10 @@ struct SlabLoading {
     double d = 0;    // plate rigidity, kNm
     double creep = 0;
 };
-// From the boxes Text1 to Text5 and a thickness in cm.
+// The rigidity and creep alone, from Ecs (Text2), the creep coefficient (Text3)
+// and a thickness in cm.
+SlabLoading slabStiffness(const FormState& state, double hCm);
+// With the loads g (Text4) and q (Text5) as well.
 SlabLoading slabLoading(const FormState& state, double hCm);
 // A deflection w0 in m of the plate under pqp made long-term, in mm.
 inline double longTermMm(double w0, const SlabLoading& l) { return w0 * (1 + l.creep) * 1000; }
