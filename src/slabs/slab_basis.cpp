@@ -25,7 +25,7 @@ void addConcreteFrame(ScreenBuilder& s, const std::string& frame, int row, int c
     s.frame(frame, "Concreto", row, column)
         .box("Text1", "fck(MPa)=", "20")
         .box("Text2", "Ecs (MPa)=", "25757")
-        .box("Text3", "coeficiente de fluência: j=", "2.5");
+        .box("Text3", "coeficiente de fluência: φ=", "2.5");
 }
 
 void addLoadFrame(ScreenBuilder& s, const std::string& frame, int row, int column) {
@@ -121,10 +121,10 @@ Drawing supportDrawing(const SupportPattern& p) {
     // A slab 60 x 40 in plan, x to the right, y downwards as the screen has it.
     const double w = 60, h = 40;
     Drawing g;
-    g.left = -10;
-    g.top = -10;
-    g.right = w + 10;
-    g.bottom = h + 10;
+    g.left = -8;
+    g.top = -14;
+    g.right = w + 14;
+    g.bottom = h + 8;
     g.rectangle({0, 0}, {w, h}, colours::lightGrey, 1, true);
     struct Side {
         SlabEdge edge;
@@ -151,8 +151,9 @@ Drawing supportDrawing(const SupportPattern& p) {
             g.line(at, {at.x + 4 * s.out.x - 3 * t.x, at.y + 4 * s.out.y - 3 * t.y}, colours::black, 1);
         }
     }
-    g.text({w / 2, -3}, "lx", 9, TextAlign::Centre);
-    g.text({w + 3, h / 2}, "ly", 9, TextAlign::Left);
+    // The span names stand clear of the hatching, which reaches 4 out of the sides.
+    g.text({w / 2, -8}, "lx", 9, TextAlign::Centre);
+    g.text({w + 6, h / 2}, "ly", 9, TextAlign::Left);
     return g;
 }
 
