@@ -84,10 +84,9 @@ public:
         return {s.build(), r.build()};
     }
 
-    void load(FormState& state, const StartDefaults& defaults) const override {
-        loadSlabDefaults(state, defaults);
-        for (LoadKind k : {LoadKind::Line, LoadKind::Patch}) state.setVisible(boxesOf(k).frame, false);
-    }
+    // The three frames of loads stay in view until an option is pressed, so that a
+    // front end that only toggles the options still reaches every box.
+    void load(FormState& state, const StartDefaults& defaults) const override { loadSlabDefaults(state, defaults); }
 
     Outcome press(const std::string& command, FormState& s, Prompter& prompter) const override {
         const std::string c = command.rfind("Form23.", 0) == 0 ? command.substr(7) : command;
