@@ -7,7 +7,10 @@
 #include <algorithm>
 #include <cstdio>
 #include <functional>
+#include <map>
 #include <string>
+#include <vector>
+#include <tuple>
 
 #include "plate_solutions.h"
 #include "slabs/free_edge_tables.h"
@@ -19,18 +22,25 @@ namespace {
 constexpr double kNu = 0.2;
 const Side S = Side::Supported, F = Side::Fixed, L = Side::Free;
 
-// The largest gap between a row and the plate over a range of r, as a fraction of
-// the largest plate value there.
-double worstGap(const std::function<double(double)>& row, const std::function<double(double)>& plate, double from,
-                double to, int steps = 8) {
+// The largest gap between a row and the plate at the ratios given, as a fraction
+// of the largest plate value there.
+double worstGap(const std::function<double(double)>& row, const std::function<double(double)>& plate,
+                const std::vector<double>& ratios) {
     double gap = 0, size = 0;
-    for (int i = 0; i <= steps; ++i) {
-        const double r = from + (to - from) * i / steps;
+    for (double r : ratios) {
         const double p = plate(r);
         gap = std::max(gap, std::fabs(row(r) - p));
         size = std::max(size, std::fabs(p));
     }
     return gap / size;
+}
+
+// From one ratio to another by tenths, both ends included.
+std::vector<double> ratios(double from, double to) {
+    std::vector<double> r{from};
+    for (double x = std::ceil(from * 10 + 1e-9) / 10; x < to - 1e-9; x += 0.1) r.push_back(std::round(x * 10) / 10);
+    r.push_back(to);
+    return r;
 }
 
 // ---- Slabs supported on four sides -------------------------------------------
@@ -42,7 +52,11 @@ const std::array<std::array<Side, 4>, 6> kFourSides{{
 // of branch A (lx = r, ly = 1) or B (lx = 1, ly = r).
 double plateCoefficient(int caseNo, bool branchA, SlabResult result, double r) {
     const double lx = branchA ? r : 1, ly = branchA ? 1 : r, span = r;
-    RitzPlate plate(lx, ly, kFourSides[caseNo - 1], kNu, 12);
+    static std::map<std::tuple<int, bool, double>, RitzPlate> solved;
+    auto it = solved.find({caseNo, branchA, r});
+    if (it == solved.end())
+        it = solved.emplace(std::tuple{caseNo, branchA, r}, RitzPlate(lx, ly, kFourSides[caseNo - 1], kNu, 12)).first;
+    const RitzPlate& plate = it->second;
     switch (result) {
         case Cw: return plate.at(lx / 2, ly / 2).w / std::pow(span, 4) * 1000;
         case Mx: return plate.at(lx / 2, ly / 2).mx / (span * span) * 1000;
@@ -70,8 +84,8 @@ TEST(PlateTables, MomentAndDeflectionFitsFollowThePlate) {
             for (SlabResult result : {Cw, Mx, My, Mxe, Mye}) {
                 const Fit fit = rowOf(caseNo, branchA, false)[result];
                 if (fit.empty()) continue;
-                const double gap = worstGap(fit, [&](double r) { return plateCoefficient(caseNo, branchA, result, r); },
-                                            0.5, 1.0, 5);
+                const double gap =
+                    worstGap(fit, [&](double r) { return plateCoefficient(caseNo, branchA, result, r); }, ratios(0.5, 1));
                 worst = std::max(worst, gap);
                 // A quadratic over half the range of r follows these smooth curves to
                 // a few per cent of their size.
@@ -155,7 +169,11 @@ double peakNearFreeEdge(const RitzPlate& p, double ly) {
 
 double freeEdgePlate(int caseNo, free_edge::Result result, double r) {
     namespace fe = free_edge;
-    RitzPlate p(1, r, kFreeEdge[caseNo - 1], kNu, 16);
+    // One solution serves every result of a case at a ratio.
+    static std::map<std::pair<int, double>, RitzPlate> solved;
+    auto it = solved.find({caseNo, r});
+    if (it == solved.end()) it = solved.emplace(std::pair{caseNo, r}, RitzPlate(1, r, kFreeEdge[caseNo - 1], kNu, 16)).first;
+    const RitzPlate& p = it->second;
     switch (result) {
         case fe::W: return p.at(0.5, r / 2).w * 1000;
         case fe::Wo: return p.at(0.5, r).w * 1000;
@@ -180,7 +198,8 @@ TEST(PlateTables, FreeEdgeFitsFollowThePlate) {
             for (const FitPiece& piece : fit.pieces) {
                 const double to = std::min(piece.upTo, kMaxRatio);
                 const double gap = worstGap(Fit({{1e300, piece.c}}),
-                                            [&](double r) { return freeEdgePlate(caseNo, Result(result), r); }, from, to);
+                                            [&](double r) { return freeEdgePlate(caseNo, Result(result), r); },
+                                            ratios(from, to));
                 worst = std::max(worst, gap);
                 // These fits came from a coarser model of the plate than the one here:
                 // at the free edge they run up to 14% low. A row typed wrong is out by

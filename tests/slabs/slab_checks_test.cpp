@@ -115,5 +115,46 @@ TEST(SlabReports, LinesInOrder) {
     EXPECT_TRUE(slab.report("Form22b").empty());  // the other screens' keys print nothing
 }
 
+TEST(SlabReports, ShortReportsWholeAndResultsInTheOthers) {
+    BeamRun shear("Form21");
+    shear.set({{"Text2", "30"}, {"Text3", "7"}, {"Text5", "3"}, {"List1", "maior ou igual a 50%"}});
+    ASSERT_TRUE(shear.press("Command1").completed);
+    EXPECT_EQ(shear.report("Form21"),
+              (std::vector<std::string>{"Concreto: fck= 20 MPa", "Esforço cortante de serviço Vk= 30 kN/m",
+                                        "Coeficiente parcial de segurança Gamaf= 1.4", "Altura útil da laje d= 7 cm",
+                                        "Armadura chegando ao apoio As= 3 cm2/m",
+                                        "A porcentagem de armadura que chega ao apoio é maior ou igual a 50%", " ",
+                                        "RESPOSTA:", " ", "Tensões de cisalhamento de referência:",
+                                        "Tensão solicitante Twd= 0.6 MPa", "Tensão resistente Twu1= 0.58 MPa", " ",
+                                        "CONCLUSÃO: Armadura transversal obrigatória."}));
+    BeamRun circle("Form24d");
+    circle.set({{"Text4", "5"}, {"Text5", "2"}, {"Text6", "3"}, {"Text8", "12"}, {"Option2", "True"}});
+    ASSERT_TRUE(circle.press("Command1").completed);
+    const auto lines = circle.report("Form24e");
+    ASSERT_EQ(lines.size(), 26u);
+    EXPECT_EQ(lines[0], "Contorno da laje: engastado");
+    EXPECT_EQ(lines[10], "Raio da laje: R= 3 m");
+    EXPECT_EQ(lines[16], "Calculada: Wtot= 6.42 mm               Admissível: Wadm= 24 mm");
+    EXPECT_EQ(lines[19], "Momento radial: Mr= 4.72 kNm/m");
+    EXPECT_EQ(lines[23], "Momento fletor resultante = 6.68 kNm/m");
+    EXPECT_EQ(lines[25], "Momento negativo na direção radial: Mer= -7.88 kNm/m");
+    // Every result the screen shows reaches the report of the others.
+    for (const auto& [module, key, set] :
+         std::vector<std::tuple<std::string, std::string, std::map<std::string, std::string>>>{
+             {"Form20", "Form20", kGood.at("Form20")},
+             {"Form23", "Form23b", kGood.at("Form23")},
+             {"Form24", "Form24b", {{"Text4", "5"}, {"Text5", "2"}, {"Text6", "4"}, {"Text7", "3.2"}, {"Text8", "12"},
+                                    {"Option3", "True"}, {"Option1", ""}}}}) {
+        BeamRun run(module);
+        run.set(set);
+        ASSERT_TRUE(run.press("Command1").completed) << module;
+        std::string all;
+        for (const auto& l : run.report(key)) all += l + "\n";
+        for (const auto& [name, text] : run.session.state().texts())
+            if (name.rfind(key + ".Text", 0) == 0 && !text.empty() && run.session.state().declaration(name)->kind == ControlKind::ResultBox)
+                EXPECT_NE(all.find("= " + text + " "), std::string::npos) << name << " " << text;
+    }
+}
+
 }  // namespace
 }  // namespace morve::testing

@@ -45,6 +45,18 @@ TEST(SlabPlates, SimplySupportedSlabFollowsNavierBothWays) {
         }
 }
 
+// The edges of the tables: the plateau of case 5, the short fixed sides of a strip,
+// the thin slab let through with Cancel and the creep of 5 without a question.
+TEST(SlabPlates, EdgesOfTheTables) {
+    EXPECT_DOUBLE_EQ(rectangularSlab(SlabMethod::Plate, 5, 3, 4, kUnit).v[Rx], 0.1 * 3);
+    EXPECT_EQ(rectangularSlab(SlabMethod::Plate, 2, 10, 4, kUnit).v[Mxe], 0);
+    BeamRun run("Form22");
+    run.set({{"Text3", "5"}, {"Text4", "5"}, {"Text5", "2"}, {"Text6", "10"}, {"Text7", "4"}, {"Text8", "6.5"}, {"Option2", "True"}, {"Option1", ""}});
+    EXPECT_TRUE(run.press("Command1").completed);
+    EXPECT_EQ(run.prompter.messages().size(), 1u);  // the box of the 7 cm only, answered Cancel
+    EXPECT_EQ(run.text("Form22b.Text11"), "0");
+}
+
 // The grillage shares the load so that the two strips deflect alike at the centre,
 // each with its own ends: x strips 5, 2, 1, 2, 1, 1 and y strips 5, 5, 5, 2, 2, 1
 // (per 384). Its reactions carry the whole load; with redistribution span and
