@@ -162,6 +162,10 @@ public:
         out.write("No bordo livre: Wtot,o= ", value(Wo), " mm");
         out.write("Admissível: Wadm= ", s.text(key + ".Text6"), " mm");
         out.blank();
+        // The moments and reactions of the cases with fixed sides do not fit under
+        // the data on one screen page; every case turns the page here alike.
+        out.write("... Continua");
+        out.pageBreak();
         out.write("Momentos fletores positivos no centro da laje:");
         out.write("Na direção x: Mx= ", value(Mx), " kNm/m", tab(40), "Na direção y: My= ", value(My), " kNm/m");
         out.write("Momento positivo no bordo livre: Mxo= ", value(Mxo), " kNm/m (Na direção x)");
