@@ -113,25 +113,26 @@ TEST(PlateTables, ReactionsCarryTheWholeLoad) {
             }
 }
 
-// The plate programme that the fits come from has no way of its own to the strips:
-// below r = 0.5 a slab is a one-way strip, worked out by hand.
+// Below r = 0.5 a slab is taken as a one-way strip: its values are those of a beam
+// worked out by hand.
 TEST(PlateTables, StripValuesAreTheOneWayStrips) {
-    struct Strip {
-        int caseNo;
-        double w, m, support;  // per mille of p L^4 / D and p L^2
-    };
-    // At mid-span: simply supported 5/384 and 1/8; propped 2/384, 9/128 (the
-    // largest span moment) and -1/8; fixed both ends 1/384, 1/24 and -1/12.
-    const Strip strips[] = {{1, 1000 * 5.0 / 384, 125, 0},      {2, 1000 * 2.0 / 384, 1000 * 9.0 / 128, 125},
-                            {3, 1000 * 1.0 / 384, 1000 / 24.0, 1000 / 12.0}, {4, 1000 * 2.0 / 384, 1000 * 9.0 / 128, 125},
-                            {5, 1000 * 1.0 / 384, 1000 / 24.0, 1000 / 12.0}, {6, 1000 * 1.0 / 384, 1000 / 24.0, 1000 / 12.0}};
-    for (const Strip& s : strips) {
-        const SlabRow row = rowOf(s.caseNo, true, true);
-        EXPECT_NEAR(row[Cw](0.3), s.w, 0.01) << s.caseNo;
-        EXPECT_NEAR(row[Mx](0.3), s.m, 0.01) << s.caseNo;
+    // Per mille of p L^4 / D and p L^2, at mid-span: simply supported 5/384 and 1/8;
+    // propped 2/384, 9/128 (the largest span moment) and -1/8; fixed both ends
+    // 1/384, 1/24 and -1/12.
+    const double ss[] = {1000 * 5.0 / 384, 125, 0}, propped[] = {1000 * 2.0 / 384, 1000 * 9.0 / 128, 125},
+                 fixed[] = {1000 * 1.0 / 384, 1000 / 24.0, 1000 / 12.0};
+    const std::pair<int, const double*> strips[] = {{1, ss}, {2, propped}, {3, fixed}, {4, propped}, {5, fixed}, {6, fixed},
+                                                    {-2, ss}, {-3, ss}, {-5, propped}};  // negative: branch B, spanning y
+    for (const auto& [signedCase, v] : strips) {
+        const int caseNo = std::abs(signedCase);
+        const bool a = signedCase > 0;
+        const SlabRow row = rowOf(caseNo, a, true);
+        const SlabResult main = a ? Mx : My, other = a ? My : Mx, support = a ? Mxe : Mye;
+        EXPECT_NEAR(row[Cw](0.3), v[0], 0.01) << signedCase;
+        EXPECT_NEAR(row[main](0.3), v[1], 0.01) << signedCase;
         // The other way carries the strip moment times Poisson's ratio.
-        EXPECT_NEAR(row[My](0.3), kNu * s.m, 0.01) << s.caseNo;
-        if (s.support > 0) EXPECT_NEAR(row[Mxe](0.3), s.support, 0.01) << s.caseNo;
+        EXPECT_NEAR(row[other](0.3), kNu * v[1], 0.01) << signedCase;
+        if (v[2] > 0) EXPECT_NEAR(row[support](0.3), v[2], 0.01) << signedCase;
     }
 }
 
