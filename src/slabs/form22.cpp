@@ -105,14 +105,16 @@ RectangularSlabResults plateSlab(int caseNo, double lx, double ly, const SlabLoa
 
 RectangularSlabResults grillageSlab(const GrillageCase& c, double lx, double ly, const SlabLoading& l) {
     const double lambda = ly / lx, l2 = lambda * lambda, l4 = l2 * l2;
-    const double kx = c.a * l4 / (c.a * l4 + c.b), ky = 1 - kx;
+    // kx = a l^4 / (a l^4 + b) and ky l^2, written so that a slab of any
+    // proportions, however extreme, still gives the limits 0 and 1.
+    const double kx = c.a / (c.a + c.b / l4), ky = 1 - kx, kyl2 = c.b / (c.a * l2 + c.b / l2);
     const double m = l.p * lx * lx;
     auto share = [](double share, double divisor) { return divisor > 0 ? share / divisor : 0.0; };
     RectangularSlabResults out;
     out.v[Mx] = share(kx, c.mx) * m;
-    out.v[My] = share(ky * l2, c.my) * m;
+    out.v[My] = share(kyl2, c.my) * m;
     out.v[Mxe] = -share(kx, c.mxe) * m;
-    out.v[Mye] = -share(ky * l2, c.mye) * m;
+    out.v[Mye] = -share(kyl2, c.mye) * m;
     out.v[Rx] = c.rx * ky * l.p * ly;
     out.v[Ry] = c.ry * kx * l.p * lx;
     out.v[Rxe] = c.rxe * ky * l.p * ly;
