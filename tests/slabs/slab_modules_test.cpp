@@ -136,6 +136,11 @@ TEST(SlabModules, ResultsWorkedByHand) {
     runAndCompare("Form24d", {{circle, {{"Form24e.Text1", "27.82"}, {"Form24e.Text2", "24"}, {"Form24e.Text3", "12.6"},
                                         {"Form24e.Text5", "17.82"}, {"Form24e.Text6", ""}}},
                               {fixedCircle, {{"Form24e.Text1", "6.42"}, {"Form24e.Text3", "4.72"}, {"Form24e.Text6", "-7.88"}}}});
+    // Free edge, x = 0 and x = lx fixed, r = 0.8: the coefficients 2.045 (w), 70.55 (Mxe)
+    // scale by 5.6 x 4^4 / 3863.7 x 3.5 and 7 x 4^2 per mille.
+    runAndCompare("Form24", {{{{"Text4", "5"}, {"Text5", "2"}, {"Text6", "4"}, {"Text7", "3.2"}, {"Text8", "12"},
+                               {"Option3", "True"}, {"Option1", ""}},
+                              {{"Form24b.Text5", "2.66"}, {"Form24b.Text17", "-7.9"}, {"Form24b.Text6", "12.8"}}}});
     // mu = 1400 / (100 x 49 x 1.2143) = 0.2353, As = 0.2724 x 700 x 1.2143 / 52.17 = 4.44,
     // s = 50.27 / 4.44 = 11.33; Mk = 1 gives the minimum 0.15% of 10 cm and s = 33, held
     // at 2h = 20 for main steel.
