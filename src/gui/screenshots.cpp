@@ -233,6 +233,33 @@ bool columnShots(MorveApp& app, const QString& folder) {
     return ok;
 }
 
+// The four-sided slab with its six patterns and its result screen, and the
+// free-edge slab's results.
+bool slabShots(MorveApp& app, const QString& folder) {
+    ScriptedPrompter answers;
+    setGuiPrompter(&answers);
+    bool ok = true;
+    if (ModuleHost* host = open(app, "Form22")) {
+        fill(*host, {{"Text4", "5"}, {"Text5", "2"}, {"Text6", "4"}, {"Text7", "5"}, {"Text8", "10"}});
+        host->session().state().setOption("Form22.Option4", true);
+        fill(*host, {});
+        ok &= saveScreen(*host, "Form22", folder, "form22.png");
+        press(*host, "Command1");
+        ok &= saveScreen(*host, "Form22c", folder, "form22c.png");
+    }
+    if (ModuleHost* host = open(app, "Form24")) {
+        fill(*host, {{"Text4", "5"}, {"Text5", "2"}, {"Text6", "4"}, {"Text7", "3.2"}, {"Text8", "12"}});
+        host->session().state().setOption("Form24.Option3", true);
+        fill(*host, {});
+        press(*host, "Command1");
+        ok &= saveScreen(*host, "Form24b", folder, "form24b.png");
+    }
+    setGuiPrompter(nullptr);
+    app.returnToMenu();
+    settle();
+    return ok;
+}
+
 }  // namespace
 
 int takeScreenshots(const QString& folder) {
@@ -312,6 +339,7 @@ int takeScreenshots(const QString& folder) {
     ok &= beamShots(app, folder);
     ok &= continuousShots(app, folder);
     ok &= columnShots(app, folder);
+    ok &= slabShots(app, folder);
     return ok ? 0 : 1;
 }
 
