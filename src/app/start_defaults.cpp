@@ -56,6 +56,8 @@ std::string StartDefaults::list(int n) const {
     return items[static_cast<std::size_t>(i)];
 }
 
+std::string StartDefaults::ecsText() const { return formatPlain(std::trunc(ecs)); }
+
 void StartDefaults::confirm() { ecs = computeEcs(readNumber(list(1)), list(4)); }
 
 bool StartDefaults::select(int n, const std::string& itemText) {

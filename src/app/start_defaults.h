@@ -28,6 +28,9 @@ struct StartDefaults {
 
     // The text of Form0.List1 ... List5 (n from 1 to 5), "" for a bad index.
     std::string list(int n) const;
+    // Ecs as the modules' boxes show it: whole MPa, the fraction dropped, so fck 20
+    // by CEB/90 gives the windows' own default 25757.
+    std::string ecsText() const;
     // "&OK" of the start dialog: Ecs from the selections.
     void confirm();
     // Select by item text (the case file's words); false when no item has it.

@@ -377,9 +377,7 @@ std::vector<ScreenDecl> Form34::screens() const {
 void Form34::load(FormState& state, const StartDefaults& defaults) const {
     if (readNumber(defaults.list(1)) <= 0) return;
     state.setText("Text1", defaults.list(1));
-    // The modulus of the start dialog in whole MPa, as the window's own 25757 is
-    // for fck 20 by CEB/90.
-    state.setText("Text2", formatPlain(std::trunc(defaults.ecs)));
+    state.setText("Text2", defaults.ecsText());
 }
 
 Outcome Form34::press(const std::string& command, FormState& s, Prompter& prompter) const {

@@ -37,7 +37,7 @@ void addLoadFrame(ScreenBuilder& s, const std::string& frame, int row, int colum
 
 void loadSlabDefaults(FormState& state, const StartDefaults& defaults) {
     if (readNumber(defaults.list(1)) > 0) state.setText("Text1", defaults.list(1));
-    if (defaults.ecs > 0) state.setText("Text2", formatResult(defaults.ecs, 0));
+    if (defaults.ecs > 0) state.setText("Text2", defaults.ecsText());
 }
 
 void checkSlabConcrete(CheckSequence& checks, const FormState& s) {

@@ -125,7 +125,7 @@ void runAndCompare(const std::string& module, const std::vector<Expect>& cases, 
     }
 }
 
-// By hand: circular plates from their closed forms with D = 25758e3 h^3 / 11.52;
+// By hand: circular plates from their closed forms with D = 25757e3 h^3 / 11.52;
 // the strip design from the reduced moment; the shear check both ways.
 TEST(SlabModules, ResultsWorkedByHand) {
     // R = 3, h = 0.12, p = 7, pqp = 5.6, D = 3864.2: fixed w0 = 5.6 81 / (64 D) = 1.834e-3, x 3.5;
