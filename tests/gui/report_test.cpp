@@ -15,31 +15,20 @@
 #include "gui/gui_prompter.h"
 #include "gui/report_panel.h"
 #include "render/drawing_export.h"
+#include "gui_test_support.h"
 #include "reports/report_writer.h"
 
 using namespace morve;
 
 namespace {
 
-// A module whose report holds as many numbered lines as asked. The helical
-// stairs' key serves: its title comes from the catalogue.
-class LongReport : public Module {
+// A report of as many numbered lines as asked.
+class LongReport : public ReportOnly {
 public:
-    explicit LongReport(int lines) : lines_(lines) {}
-    ModuleInfo info() const override {
-        ModuleInfo i;
-        i.key = "Form41";
-        i.printKey = "Form41";
-        return i;
-    }
-    std::vector<ScreenDecl> screens() const override { return {ScreenBuilder("Form41", "").build()}; }
-    Outcome press(const std::string&, FormState&, Prompter&) const override { return Outcome::done(); }
-    void report(const std::string&, const FormState&, ReportWriter& out) const override {
-        for (int i = 1; i <= lines_; ++i) out.write("Linha ", std::to_string(i), tab(30), "valor");
-    }
-
-private:
-    int lines_;
+    explicit LongReport(int lines)
+        : ReportOnly([lines](ReportWriter& out) {
+              for (int i = 1; i <= lines; ++i) out.write("Linha ", std::to_string(i), tab(30), "valor");
+          }) {}
 };
 
 QString run(const QString& program, const QStringList& args) {

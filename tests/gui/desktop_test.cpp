@@ -1,0 +1,272 @@
+// The desktop as a user meets it: Portuguese buttons, the modal start dialog with
+// its tip beside it, windows wholly on the screen, the keyboard, a report line
+// inside the page, phrases of boxes on one row and windows that use their room.
+#include <QAbstractButton>
+#include <QDir>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPainter>
+#include <QProcess>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextBrowser>
+#include <QTimer>
+
+#include "gui/qt_texts.h"
+#include "gui/report_panel.h"
+#include "gui/window_places.h"
+#include "module_user.h"
+#include "render/page_painter.h"
+
+using namespace morve;
+
+namespace {
+
+// A report whose widest line runs to column 110, as the detailing tables do.
+class WideReport : public ReportOnly {
+public:
+    WideReport()
+        : ReportOnly([](ReportWriter& out) {
+              for (int i = 1; i <= 12; ++i)
+                  out.write("Cobrimento das armaduras = 3 cm", tab(55), "Espaço livre para o vibrador = 5 cm",
+                            tab(100), "FIM", std::to_string(i));
+          }) {}
+};
+
+// The texts of the buttons of the box that comes up, and the one pressed by a key.
+struct BoxSeen {
+    QStringList buttons;
+    bool seen = false;
+};
+void answerByKey(BoxSeen& seen, Qt::Key key) {
+    QTimer::singleShot(0, [&seen, key] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box) return;
+        seen.seen = true;
+        for (QAbstractButton* b : box->buttons()) seen.buttons << b->text().remove('&');
+        QTest::keyClick(box, key);
+    });
+}
+
+bool onScreen(const QWidget* w) { return screenArea(w).contains(framedGeometry(w)); }
+
+// A prompter that looks at the windows when a box would come up.
+class PeekingPrompter : public ScriptedPrompter {
+public:
+    std::function<void()> peek;
+    void warn(const std::string& text, const std::string& title) override {
+        peek();
+        ScriptedPrompter::warn(text, title);
+    }
+};
+
+}  // namespace
+
+class DesktopTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void messageBoxesSpeakPortugueseAndKeepNoAsDefault() {
+        QtPrompter boxes;
+        BoxSeen yesNo, okCancel, warning, escaped;
+        answerByKey(yesNo, Qt::Key_Return);
+        QVERIFY(!boxes.askYesNo("Deseja sair do programa?"));  // Enter takes the default, No
+        QCOMPARE(QSet<QString>(yesNo.buttons.begin(), yesNo.buttons.end()), QSet<QString>({"Sim", "Não"}));
+        answerByKey(escaped, Qt::Key_Escape);
+        QVERIFY(!boxes.askYesNo("VOCÊ QUER MUDAR?"));
+        answerByKey(okCancel, Qt::Key_Return);
+        QVERIFY(boxes.askOkCancel("?"));
+        QCOMPARE(QSet<QString>(okCancel.buttons.begin(), okCancel.buttons.end()), QSet<QString>({"OK", "Cancelar"}));
+        answerByKey(warning, Qt::Key_Return);
+        boxes.warn("Forneça um valor não nulo para Mk.");
+        QCOMPARE(warning.buttons, QStringList({"OK"}));
+        QVERIFY(escaped.seen);
+        // Qt's own texts (file dialog, the boxes' context menu) from its pt_BR file.
+        if (!installQtTranslations(*QCoreApplication::instance())) QSKIP("qt6-translations-l10n missing");
+        QCOMPARE(QCoreApplication::translate("QLineEdit", "&Undo"), QString("&Desfazer"));
+    }
+
+    void startDialogHoldsTheProgramAndTheTipCoversNothingOfIt() {
+        ModuleUser user(false);
+        StartDialog* aviso = user.app().startDialog();
+        TipWindow* tip = user.app().tipWindow();
+        QVERIFY(aviso->isModal());
+        QCOMPARE(QApplication::activeModalWidget(), aviso);
+        QVERIFY(tip->isVisible());
+        QVERIFY(!framedGeometry(tip).intersects(framedGeometry(aviso)));
+        QVERIFY(onScreen(tip) && onScreen(aviso));
+        // The tip's "OK" stays live under the modal dialog; the menu does not.
+        QVERIFY(!QApplication::activeModalWidget()->isAncestorOf(user.app().menu()));
+        QCOMPARE(tip->parentWidget(), aviso);
+        QTest::keyClick(aviso, Qt::Key_Escape);  // Esc does not skip the defaults
+        settle();
+        QVERIFY(user.app().startDialog());
+        // "Próxima dica" brings the tip back beside the dialog; Enter is "&OK".
+        tip->close();
+        QTest::mouseClick(aviso->findChild<QPushButton*>("Command2"), Qt::LeftButton);
+        QVERIFY(tip->isVisible() && !framedGeometry(tip).intersects(framedGeometry(aviso)));
+        aviso->list(1)->setFocus();
+        QTest::keyClick(aviso->list(1), Qt::Key_Return);
+        settle();
+        QVERIFY(!user.app().startDialog());
+        QVERIFY(!tip->isVisible());
+        QVERIFY(user.app().menu()->isVisible());
+    }
+
+    void everyPlacementLeavesTheWindowWhollyOnTheScreen() {
+        const QRect area = screenArea(nullptr);
+        const QSize sizes[] = {{300, 200}, {area.width() + 300, 200}, {400, area.height() + 100}, area.size()};
+        for (const QSize& size : sizes) {
+            for (int how = 0; how < 3; ++how) {
+                QWidget w, other;
+                w.resize(size);
+                other.resize(500, 400);
+                centreOnScreen(&other);
+                if (how == 0) centreOnScreen(&w);
+                if (how == 1) placeTopRight(&w);
+                if (how == 2) placeBeside(&w, &other);
+                QVERIFY2(onScreen(&w), qPrintable(QString("%1x%2 / %3").arg(size.width()).arg(size.height()).arg(how)));
+            }
+        }
+        // The preview takes the screen, frame included, and Esc walks back out of it.
+        WideReport report;
+        FormState state;
+        QWidget caller;
+        auto* panel = new ReportPanel("Form41", report, state, &caller);
+        panel->show();
+        panel->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(panel));
+        panel->preview();
+        QVERIFY(onScreen(panel));
+        QTest::keyClick(panel, Qt::Key_Escape);
+        QVERIFY(!panel->previewing());
+        QTest::keyClick(panel, Qt::Key_Escape);
+        QVERIFY(caller.isEnabled());
+    }
+
+    void widestReportLineEndsInsideThePage() {
+        WideReport report;
+        FormState state;
+        QWidget caller;
+        ReportPanel panel("Form41", report, state, &caller);
+        // The preview: nothing is painted in the last centimetre of the surface.
+        const auto pages = panel.pages(PageRule::Screen);
+        QImage page(700, 560, QImage::Format_RGB32);
+        page.fill(Qt::white);
+        {
+            QPainter painter(&page);
+            PageGeometry g = screenGeometry(page, page.width());
+            fitWidestLine(g, page, pages);
+            paintReportPage(painter, pages.front(), g);
+        }
+        const int margin = static_cast<int>(page.logicalDpiX() / 2.54);
+        for (int x = page.width() - margin; x < page.width(); ++x)
+            for (int y = 0; y < page.height(); ++y) QVERIFY2(page.pixel(x, y) == qRgb(255, 255, 255), "texto na margem");
+
+        // The PDF: every word within the A4 page less its 2 cm margin, by poppler.
+        if (QStandardPaths::findExecutable("pdftotext").isEmpty()) QSKIP("poppler-utils missing");
+        QTemporaryDir dir;
+        QCOMPARE(panel.saveTo(dir.filePath("r.pdf")), std::string());
+        QVERIFY(panel.findChild<QLabel*>("LabelSalvo")->text().contains(dir.filePath("r.pdf")));
+        QProcess p;
+        p.start("pdftotext", {"-bbox", dir.filePath("r.pdf"), "-"});
+        QVERIFY(p.waitForFinished(10000));
+        const QString words = QString::fromUtf8(p.readAllStandardOutput());
+        QVERIFY(words.contains(">FIM12<"));
+        QRegularExpression xMax("xMax=\"([0-9.]+)\"");
+        for (auto it = xMax.globalMatch(words); it.hasNext();)
+            QVERIFY(it.next().captured(1).toDouble() <= 595 - 72 * 2 / 2.54 + 0.5);
+    }
+
+    void pdfNameComesFromTheTitles() {
+        const struct {
+            const char *example, *title, *caption, *name;
+        } cases[] = {
+            {"Viga V1/2", "Dimensionamento", "x", "Viga V1 - 2.pdf"},
+            {"  ", "Flexo-Compressão Normal: Seção retangular maciça", "x",
+             "Flexo-Compressão Normal - Seção retangular maciça.pdf"},
+            {"", "", "Helicoidais", "Helicoidais.pdf"},
+            {"../..", "", "", "relatorio.pdf"},
+        };
+        for (const auto& c : cases) QCOMPARE(suggestedPdfName(c.example, c.title, c.caption), QString(c.name));
+    }
+
+    void aPhraseOfBoxesStandsOnOneRowAndPicturesTakeTheRoom() {
+        ModuleUser user;
+        QVERIFY(user.open("Form12"));
+        ScreenWindow* form12 = user.screen("Form12");
+        const char* phrase[] = {"Label2", "Text12", "Label3", "Text13"};
+        QWidget* first = form12->control(phrase[0]);
+        int lastRight = -1;
+        for (const char* name : phrase) {
+            QWidget* w = form12->control(name);
+            QVERIFY2(w, name);
+            const QRect r(w->mapTo(form12, QPoint(0, 0)), w->size());
+            QVERIFY2(std::abs(r.center().y() - first->mapTo(form12, first->rect().center()).y()) <= 2, name);
+            QVERIFY2(r.left() > lastRight, name);
+            lastRight = r.right();
+        }
+        // Esc on the section's companion is its "&Voltar".
+        QVERIFY(user.open("Form14"));
+        for (auto [box, text] : {std::pair{"Text4", "60"}, {"Text5", "5"}, {"Text6", "12"}})
+            user.type("Form14", box, text);
+        user.click("Form14", "Command5");
+        QVERIFY(user.shown("Form12c"));
+        user.screen("Form12c")->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(user.screen("Form12c")));
+        QTest::keyClick(user.screen("Form12c"), Qt::Key_Escape);
+        settle();
+        QVERIFY(!user.shown("Form12c") && user.shown("Form14"));
+        QVERIFY(user.open("Form7"));
+        ScreenWindow* form7 = user.screen("Form7");
+        const int usual = form7->control("Picture1")->height();
+        form7->resize(1900, 1000);
+        settle();
+        QVERIFY(form7->control("Picture1")->height() > usual + 250);
+        // Nothing but margins below the last frame.
+        QWidget* answer = form7->control("Frame8");
+        QVERIFY(form7->height() - (answer->mapTo(form7, QPoint(0, 0)).y() + answer->height()) < 40);
+    }
+
+    void theScreenIsBroughtUpToDateBeforeABox() {
+        ModuleUser user;
+        QVERIFY(user.open("Form7"));
+        user.type("Form7", "Text10", "4");
+        user.type("Form7", "Text6", "50");
+        user.pick("Form7", "List6", "1");
+        user.click("Form7", "Command1");
+        QCOMPARE(user.text("Form7", "Text7"), QString("5.13"));
+        PeekingPrompter peeking;
+        QString shownAtTheBox = "<nenhuma caixa>";
+        peeking.peek = [&] { shownAtTheBox = user.text("Form7", "Text7"); };
+        setGuiPrompter(&peeking);
+        user.type("Form7", "Text6", "0");
+        user.click("Form7", "Command1");
+        QCOMPARE(shownAtTheBox.trimmed(), QString());
+        // Esc leaves a companion by its "&Voltar", never the module's own window.
+        QTest::keyClick(user.screen("Form7"), Qt::Key_Escape);
+        QVERIFY(user.shown("Form7"));
+    }
+
+    void helpPagesWriteDecimalsWithAPoint() {
+        const QDir folder(qEnvironmentVariable("MORVE_DATA_DIR") + "/ajuda");
+        const QStringList files = folder.entryList({"*.html", "*.txt"});
+        QVERIFY(files.size() > 10);
+        QTextBrowser reader;
+        for (const QString& name : files) {
+            QFile f(folder.filePath(name));
+            QVERIFY(f.open(QIODevice::ReadOnly));
+            reader.setHtml(QString::fromUtf8(f.readAll()));
+            const auto comma = QRegularExpression("\\d,\\d").match(reader.toPlainText());
+            QVERIFY2(!comma.hasMatch(), qPrintable(name + ": " + comma.captured()));
+        }
+    }
+};
+
+QTEST_MAIN(DesktopTest)
+#include "desktop_test.moc"
