@@ -68,6 +68,7 @@ int boxWidth(const QWidget* w, int characters) {
 }
 
 constexpr int kGridMinimumHeight = 160;
+constexpr int kWidestButton = 420;  // a button does not run across a maximised window
 constexpr int kGridRowsShown = 10;  // more rows than this scroll
 
 // A short table shows all its rows without a scroll bar; a long one scrolls.
@@ -242,6 +243,8 @@ ScreenWindow::ControlParts ScreenWindow::makeControl(const ControlDecl& c, const
             for (const auto& item : c.items)
                 widest = std::max(widest, list->fontMetrics().horizontalAdvance(q(item)));
             list->setMinimumWidth(std::min(widest + 36, 360));
+            // A wider window gives a list no more to show.
+            list->setMaximumWidth(std::max(list->minimumWidth(), 280));
             parts.widget = list;
             break;
         }
@@ -271,6 +274,7 @@ ScreenWindow::ControlParts ScreenWindow::makeControl(const ControlDecl& c, const
         case ControlKind::Chart: parts.widget = new ChartBox(QSize(c.width, c.height), this); break;
         case ControlKind::Command: {
             auto* button = new QPushButton(q(c.caption), this);
+            button->setMaximumWidth(kWidestButton);
             const std::string name = c.name;
             connect(button, &QPushButton::clicked, this, [this, name] {
                 if (onCommand) onCommand(name);

@@ -120,6 +120,23 @@ private slots:
         user->click("Form14", "Command5");
         QVERIFY(user->shown("Form12c"));
         QCOMPARE(filledCircles(picture("Form12c")), 12);
+        // Esc on the companion is its "&Voltar".
+        user->screen("Form12c")->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(user->screen("Form12c")));
+        QTest::keyClick(user->screen("Form12c"), Qt::Key_Escape);
+        settle();
+        QVERIFY(!user->shown("Form12c") && user->shown("Form14"));
+        // "SOLUÇÃO: n barras de φ mm" reads as one row, left to right.
+        auto place = [&](const char* name) {
+            QWidget* w = user->control("Form14", name);
+            return QRect(w->mapTo(user->screen("Form14"), QPoint(0, 0)), w->size());
+        };
+        int lastRight = -1;
+        for (const char* name : {"Label2", "Text12", "Label3", "Text13"}) {
+            QVERIFY2(place(name).left() > lastRight, name);
+            QVERIFY2(std::abs(place(name).center().y() - place("Label2").center().y()) <= 2, name);
+            lastRight = place(name).right();
+        }
     }
 
     void verificationAndItsInteractionDiagram() {
