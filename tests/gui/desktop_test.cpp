@@ -1,20 +1,13 @@
 // The desktop as a user meets it: Portuguese buttons, windows wholly on the
-// screen, Esc in the report panel, a report line inside the page, the name of a
-// saved report, windows that use their room, and the decimal point of the help.
-// The start dialog, the screen synced before a box and the phrase on one row are
-// checked in the runs of the modules.
+// screen, Esc in the report panel, the name of a saved report, windows that use
+// their room, and the decimal point of the help.
+// The start dialog, the screen synced before a box, the phrase on one row and the
+// report lines inside the page are checked in the runs of the modules and reports.
 #include <QAbstractButton>
 #include <QDir>
-#include <QImage>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMessageBox>
-#include <QPainter>
-#include <QProcess>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTextBrowser>
 #include <QTimer>
@@ -23,22 +16,10 @@
 #include "gui/report_panel.h"
 #include "gui/window_places.h"
 #include "module_user.h"
-#include "render/page_painter.h"
 
 using namespace morve;
 
 namespace {
-
-// A report whose widest line runs to column 110, as the detailing tables do.
-class WideReport : public ReportOnly {
-public:
-    WideReport()
-        : ReportOnly([](ReportWriter& out) {
-              for (int i = 1; i <= 12; ++i)
-                  out.write("Cobrimento das armaduras = 3 cm", tab(55), "Espaço livre para o vibrador = 5 cm",
-                            tab(100), "FIM", std::to_string(i));
-          }) {}
-};
 
 // The texts of the buttons of the box that comes up, and the one pressed by a key.
 struct BoxSeen {
@@ -99,7 +80,7 @@ private slots:
             }
         }
         // The preview takes the screen, frame included, and Esc walks back out of it.
-        WideReport report;
+        ReportOnly report([](ReportWriter& out) { out.write("Linha"); });
         FormState state;
         QWidget caller;
         auto* panel = new ReportPanel("Form41", report, state, &caller);
@@ -112,40 +93,6 @@ private slots:
         QVERIFY(!panel->previewing());
         QTest::keyClick(panel, Qt::Key_Escape);
         QVERIFY(caller.isEnabled());
-    }
-
-    void widestReportLineEndsInsideThePage() {
-        WideReport report;
-        FormState state;
-        QWidget caller;
-        ReportPanel panel("Form41", report, state, &caller);
-        // The preview: nothing is painted in the last centimetre of the surface.
-        const auto pages = panel.pages(PageRule::Screen);
-        QImage page(700, 560, QImage::Format_RGB32);
-        page.fill(Qt::white);
-        {
-            QPainter painter(&page);
-            PageGeometry g = screenGeometry(page, page.width());
-            fitWidestLine(g, page, pages);
-            paintReportPage(painter, pages.front(), g);
-        }
-        const int margin = static_cast<int>(page.logicalDpiX() / 2.54);
-        for (int x = page.width() - margin; x < page.width(); ++x)
-            for (int y = 0; y < page.height(); ++y) QVERIFY2(page.pixel(x, y) == qRgb(255, 255, 255), "texto na margem");
-
-        // The PDF: every word within the A4 page less its 2 cm margin, by poppler.
-        if (QStandardPaths::findExecutable("pdftotext").isEmpty()) QSKIP("poppler-utils missing");
-        QTemporaryDir dir;
-        QCOMPARE(panel.saveTo(dir.filePath("r.pdf")), std::string());
-        QVERIFY(panel.findChild<QLabel*>("LabelSalvo")->text().contains(dir.filePath("r.pdf")));
-        QProcess p;
-        p.start("pdftotext", {"-bbox", dir.filePath("r.pdf"), "-"});
-        QVERIFY(p.waitForFinished(10000));
-        const QString words = QString::fromUtf8(p.readAllStandardOutput());
-        QVERIFY(words.contains(">FIM12<"));
-        QRegularExpression xMax("xMax=\"([0-9.]+)\"");
-        for (auto it = xMax.globalMatch(words); it.hasNext();)
-            QVERIFY(it.next().captured(1).toDouble() <= 595 - 72 * 2 / 2.54 + 0.5);
     }
 
     void pdfNameComesFromTheTitles() {
