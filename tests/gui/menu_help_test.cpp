@@ -171,6 +171,11 @@ private slots:
             QVERIFY(app.generalHelp()->isVisible());
             QVERIFY2(app.generalHelp()->browser()->toPlainText().contains(words), command.c_str());
         }
+        // Esc closes a help window.
+        app.generalHelp()->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(app.generalHelp()));
+        QTest::keyClick(app.generalHelp(), Qt::Key_Escape);
+        QVERIFY(!app.generalHelp()->isVisible());
         app.generalHelp()->showPage("AjudaQueNaoExiste");
         QVERIFY(app.generalHelp()->browser()->toPlainText().contains("Página de ajuda não encontrada"));
         QVERIFY(app.generalHelp()->browser()->toPlainText().contains("AjudaQueNaoExiste.html"));
