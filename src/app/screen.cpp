@@ -148,4 +148,12 @@ ScreenBuilder& ScreenBuilder::width(int w) {
     return *this;
 }
 
+ScreenBuilder& ScreenBuilder::sameRow() {
+    // The first control of a frame has no row before it to join.
+    const auto& controls = screen_.controls;
+    if (controls.size() > 1 && controls[controls.size() - 2].frame == controls.back().frame)
+        screen_.controls.back().sameRow = true;
+    return *this;
+}
+
 }  // namespace morve

@@ -48,6 +48,7 @@ struct ControlDecl {
     bool visible = true;
     int width = 0;  // characters for a box, pixels for a picture (0: the usual)
     int height = 0; // pixels for a picture, rows for a list
+    bool sameRow = false;  // stands on the row of the control declared before it
 };
 
 struct FrameDecl {
@@ -93,6 +94,9 @@ public:
     ScreenBuilder& disabled();
     ScreenBuilder& hidden();
     ScreenBuilder& width(int w);
+    // The control declared last stands on the row of the one before it, so that a
+    // phrase made of several boxes ("SOLUÇÃO: n barras de φ mm") reads as one line.
+    ScreenBuilder& sameRow();
 
     ScreenDecl build() const { return screen_; }
 

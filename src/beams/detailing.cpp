@@ -473,6 +473,7 @@ Drawing detailingDrawing(const DetailingSetup& s, const FormState& state) {
     g.top = 0;
     g.right = 5600;
     g.bottom = 3000;
+    g.fitContent = true;
     const double right = overall, webL = sec.webLeft, webR = sec.webLeft + sec.b;
     if (sec.bf > sec.b) {
         // The whole T: flange on top, web centred under it. The bars of the top face

@@ -52,9 +52,9 @@ ScreenDecl mainScreen(const ColumnForm& f) {
         s.result(f.asResult, "Área de aço calculada =", "cm2")
             .result(f.asMinimum, "Armadura mínima=", "cm2")
             .label("Label2", "SOLUÇÃO:")
-            .result(f.barCount, "")
-            .label("Label3", "barras de ")
-            .result(f.diameter, "", "mm")
+            .result(f.barCount, "").sameRow()
+            .label("Label3", "barras de ").sameRow()
+            .result(f.diameter, "", "mm").sameRow()
             .result(f.existing, "Armadura existente =", "cm2");
     else
         s.label("Label2", "Momento fletor de ruína de cálculo:").result(f.resistingMoment, "Md=", "kNm");

@@ -46,6 +46,10 @@ struct Shape {
 struct Drawing {
     // The region of the module's units that the surface shows.
     double left = 0, top = 0, right = 1, bottom = 1;
+    // Show only what is drawn, labels included, as large as the surface allows,
+    // rather than the whole region: for a sketch whose proportions vary with the
+    // case (a tall narrow section in a wide frame).
+    bool fitContent = false;
     std::vector<Shape> shapes;
 
     bool empty() const { return shapes.empty(); }

@@ -15,6 +15,7 @@
 
 #include "app/catalogue.h"
 #include "gui/data_paths.h"
+#include "gui/keyboard.h"
 
 namespace morve {
 
@@ -29,6 +30,7 @@ HelpPageWindow::HelpPageWindow(const char* objectName, QWidget* parent) : QWidge
     layout->setContentsMargins(2, 2, 2, 2);
     layout->addWidget(browser_);
     resize(560, 640);
+    onEscape(this, [this] { close(); });
 }
 
 void HelpPageWindow::showPage(const std::string& baseName) {
@@ -75,6 +77,7 @@ HelpListWindow::HelpListWindow() {
     connect(show, &QPushButton::clicked, this, [this] { showSelected(); });
     connect(list_, &QListWidget::itemDoubleClicked, this, [this] { showSelected(); });
     connect(cancel, &QPushButton::clicked, this, [this] { close(); });
+    onEscape(this, [this] { close(); });
 }
 
 void HelpListWindow::showSelected() {
@@ -117,6 +120,7 @@ TipWindow::TipWindow() {
     row->addWidget(ok);
     layout->addLayout(row);
     connect(ok, &QPushButton::clicked, this, [this] { close(); });
+    onEscape(this, [this] { close(); });
 }
 
 QString TipWindow::tip() const { return label_->text(); }
@@ -165,6 +169,7 @@ AboutWindow::AboutWindow() {
     row->addWidget(ok);
     layout->addLayout(row);
     connect(ok, &QPushButton::clicked, this, [this] { close(); });
+    onEscape(this, [this] { close(); });
 }
 
 }  // namespace morve

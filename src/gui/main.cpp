@@ -11,6 +11,7 @@
 #include "gui/data_paths.h"
 #include "gui/main_window.h"
 #include "gui/morve_app.h"
+#include "gui/qt_texts.h"
 #include "gui/screenshots.h"
 
 namespace {
@@ -48,6 +49,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion(QStringLiteral(MORVE_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("morve"));
     QApplication::setQuitOnLastWindowClosed(false);
+    morve::installQtTranslations(qapp);
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("morve"), QIcon(morve::helpFolder() + "/../morve.svg")));
     if (!screenshots.isEmpty()) return morve::takeScreenshots(screenshots);
 

@@ -10,6 +10,7 @@
 #include <map>
 
 #include "app/module.h"
+#include "gui/keyboard.h"
 
 namespace morve {
 
@@ -111,6 +112,7 @@ MainWindow::MainWindow() {
             if (onHelp) onHelp(entry);
         });
     }
+    giveAccessKeys(menuBar());
 }
 
 QAction* MainWindow::moduleAction(const std::string& module) const {

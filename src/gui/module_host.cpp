@@ -99,7 +99,11 @@ void ModuleHost::unloadAll() {
 
 Outcome ModuleHost::press(const std::string& screen, const std::string& command) {
     for (auto& [name, w] : windows_) w->storeTo(session_.state());
-    Outcome outcome = session_.press(command, guiPrompter());
+    // Before any box the windows show what the calculation has written so far.
+    SyncingPrompter prompter(guiPrompter(), [this] {
+        for (auto& [name, w] : windows_) w->loadFrom(session_.state());
+    });
+    Outcome outcome = session_.press(command, prompter);
     for (auto& [name, w] : windows_) refresh(w);
     applyScreenEffects(outcome, window(screen));
     if (!outcome.focus.empty()) {

@@ -35,6 +35,7 @@ MorveApp::MorveApp(AppOptions options) : options_(options) {
 }
 
 MorveApp::~MorveApp() {
+    releaseTip();
     host_.reset();
     if (report_) delete report_.data();
     if (helpList_) delete helpList_.data();
@@ -73,6 +74,7 @@ void MorveApp::restartDefaults() {
     closeModule();
     menu_->show();
     showBackdrop(true);
+    releaseTip();
     if (aviso_) aviso_->close();
     aviso_ = new StartDialog();
     aviso_->onConfirm = [this](const StartDefaults& d) { confirmDefaults(d); };
@@ -85,16 +87,28 @@ void MorveApp::restartDefaults() {
 void MorveApp::showTip() {
     // A tip is drawn only when the window opens anew.
     if (!tip_->isVisible()) tip_->drawTip();
+    if (aviso_ && tip_->parentWidget() != aviso_) {
+        // A window of the start dialog, so that its modality leaves the tip's "OK" live.
+        tip_->setParent(aviso_, tip_->windowFlags() | Qt::Window);
+    }
     tip_->adjustSize();
-    centreOnScreen(tip_);
-    tip_->move(tip_->x(), tip_->y() + 180);
+    if (aviso_)
+        placeBeside(tip_, aviso_);
+    else
+        centreOnScreen(tip_);
     tip_->show();
     tip_->raise();
 }
 
+void MorveApp::releaseTip() {
+    tip_->hide();
+    // The tip outlives each start dialog, which deletes its children when it closes.
+    if (tip_->parentWidget()) tip_->setParent(nullptr, tip_->windowFlags() | Qt::Window);
+}
+
 void MorveApp::confirmDefaults(const StartDefaults& defaults) {
     defaults_ = defaults;
-    tip_->hide();
+    releaseTip();
     showBackdrop(false);
     menu_->show();
     menu_->raise();
@@ -150,6 +164,8 @@ void MorveApp::askExit() {
 
 void MorveApp::showModuleHelp(const std::string& page) {
     ajuda_->showPage(page);
+    // Placed before it shows, so that it opens where it stays.
+    if (!ajuda_->isVisible()) placeTopRight(ajuda_);
     ajuda_->show();
     placeTopRight(ajuda_);
     ajuda_->raise();
@@ -172,6 +188,7 @@ void MorveApp::helpMenu(const HelpMenuEntry& entry) {
     switch (entry.action) {
         case HelpAction::GeneralPage:
             metodo_->showPage(entry.page);
+            if (!metodo_->isVisible()) centreOnScreen(metodo_);
             metodo_->show();
             centreOnScreen(metodo_);
             metodo_->raise();
@@ -208,6 +225,7 @@ void MorveApp::shutdown() {
     QTimer::singleShot(options_.exitMs, this, [this] {
         closeModule();
         if (aviso_) {
+            releaseTip();
             aviso_->onConfirm = nullptr;
             aviso_->close();
         }

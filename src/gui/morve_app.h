@@ -67,6 +67,7 @@ public:
 private:
     void closeModule();
     void showTip();
+    void releaseTip();
 
     AppOptions options_;
     ProcessLocaleState locale_;

@@ -61,6 +61,7 @@ ChartBox::ChartBox(QSize size, QWidget* parent) : QWidget(parent), view_(new QCh
     layout->addWidget(view_);
     view_->setRenderHint(QPainter::Antialiasing);
     setMinimumSize(size.isEmpty() ? QSize(320, 260) : size);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setChart(Chart{});
 }
 

@@ -1,6 +1,8 @@
 #include "gui/report_panel.h"
 
 #include <QCloseEvent>
+#include <QDir>
+#include <QFileInfo>
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -19,8 +21,10 @@
 
 #include "gui/gui_prompter.h"
 #include "gui/key_filter_guard.h"
+#include "gui/keyboard.h"
 #include "gui/window_places.h"
 #include "render/page_painter.h"
+#include "app/catalogue.h"
 #include "reports/report_dispatch.h"
 
 namespace morve {
@@ -32,8 +36,9 @@ PagePreview::PagePreview(QWidget* parent) : QWidget(parent) {
     setMinimumSize(620, static_cast<int>(g.top + 38 * g.lineHeight + 8));
 }
 
-void PagePreview::setPage(const ReportPage* page) {
+void PagePreview::setPage(const ReportPage* page, const std::vector<ReportPage>* report) {
     page_ = page;
+    report_ = report;
     update();
 }
 
@@ -41,7 +46,8 @@ void PagePreview::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
     if (!page_) return;
-    const PageGeometry g = screenGeometry(*this, width());
+    PageGeometry g = screenGeometry(*this, width());
+    fitWidestLine(g, *this, report_ ? *report_ : std::vector<ReportPage>{*page_});
     paintReportPage(painter, *page_, g);
 }
 
@@ -94,6 +100,11 @@ ReportPanel::ReportPanel(std::string key, const Module& module, const FormState&
         t->setAlignment(Qt::AlignCenter);
     }
     picture1_ = new PagePreview(this);
+    savedNote_ = new QLabel(this);
+    savedNote_->setObjectName(QStringLiteral("LabelSalvo"));
+    savedNote_->setWordWrap(true);
+    savedNote_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    savedNote_->hide();
 
     auto* layout = new QGridLayout(this);
     layout->addWidget(label3_, 0, 0);
@@ -103,6 +114,7 @@ ReportPanel::ReportPanel(std::string key, const Module& module, const FormState&
     auto* buttons = new QHBoxLayout();
     for (QPushButton* b : {command1_, command2_, command7_, command3_}) buttons->addWidget(b);
     layout->addLayout(buttons, 2, 0, 1, 4);
+    layout->addWidget(savedNote_, 4, 0, 1, 4);
 
     auto* side = new QVBoxLayout();
     auto* turn = new QHBoxLayout();
@@ -127,6 +139,8 @@ ReportPanel::ReportPanel(std::string key, const Module& module, const FormState&
     connect(command6_, &QPushButton::clicked, this, [this] { backToPanel(); });
     connect(command4_, &QToolButton::clicked, this, [this] { previousPage(); });
     connect(command5_, &QToolButton::clicked, this, [this] { nextPage(); });
+    // Esc leaves the preview for the panel, and the panel as "&Cancelar" does.
+    onEscape(this, [this] { previewing_ ? backToPanel() : cancel(); });
 
     // The panel as it opens: the preview's controls hidden and off.
     for (QWidget* w : std::initializer_list<QWidget*>{command4_, command5_, command6_}) {
@@ -164,6 +178,7 @@ void ReportPanel::preview() {
         w->hide();
     text1_->setReadOnly(true);
     text2_->setReadOnly(true);
+    savedNote_->hide();
     savedSize_ = size();
     previewing_ = true;
     for (QWidget* w : std::initializer_list<QWidget*>{command4_, command5_, command6_, text11_, text22_, picture1_})
@@ -173,9 +188,7 @@ void ReportPanel::preview() {
     screenPages_ = pages(PageRule::Screen);
     text22_->setText(QString::number(pageCount()));
     if (pageCount() > 1) command5_->setEnabled(true);
-    const QRect area = screenArea(this);
-    resize(area.size());
-    move(area.topLeft());
+    fillScreen(this);
     showPage(selected_);
 }
 
@@ -183,7 +196,7 @@ void ReportPanel::showPage(int page) {
     selected_ = page;
     text11_->setText(QString::number(page));
     const bool inRange = page >= 1 && page <= pageCount();
-    picture1_->setPage(inRange ? &screenPages_[static_cast<std::size_t>(page - 1)] : nullptr);
+    picture1_->setPage(inRange ? &screenPages_[static_cast<std::size_t>(page - 1)] : nullptr, &screenPages_);
 }
 
 void ReportPanel::nextPage() {
@@ -228,17 +241,48 @@ void ReportPanel::print() {
     paintReportPages(printer, pages(PageRule::Paper));
 }
 
+QString suggestedPdfName(const std::string& exampleTitle, const std::string& reportTitle,
+                         const std::string& moduleCaption) {
+    QString name;
+    for (const std::string* s : {&exampleTitle, &reportTitle, &moduleCaption}) {
+        name = QString::fromStdString(*s).simplified();
+        if (!name.isEmpty()) break;
+    }
+    // Separators of folders and the marks some file systems refuse become dashes.
+    static const QString refused = QStringLiteral("/\\:*?\"<>|");
+    QString safe;
+    for (QChar c : name)
+        safe += refused.contains(c) || c.category() == QChar::Other_Control ? QStringLiteral(" - ") : QString(c);
+    name = safe.simplified();
+    while (name.startsWith(QLatin1Char('.')) || name.startsWith(QLatin1Char('-')) || name.startsWith(QLatin1Char(' ')))
+        name.remove(0, 1);
+    if (name.isEmpty()) name = QStringLiteral("relatorio");
+    return name.left(120) + QStringLiteral(".pdf");
+}
+
+QString ReportPanel::suggestedName() const {
+    const CatalogueRow* row = ModuleCatalogue::byModule(module_.info().key);
+    return suggestedPdfName(text2_->text().toStdString(), document().title, row ? row->caption : key_);
+}
+
 void ReportPanel::save() {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     const QString path = QFileDialog::getSaveFileName(this, QStringLiteral("Salvar o relatório em arquivo PDF"),
-                                                      folder + "/" + QString::fromStdString(key_) + ".pdf",
+                                                      folder + "/" + suggestedName(),
                                                       QStringLiteral("PDF (*.pdf)"));
     if (path.isEmpty()) return;
     const std::string error = saveTo(path.endsWith(".pdf", Qt::CaseInsensitive) ? path : path + ".pdf");
     if (!error.empty()) guiPrompter().warn(error);
 }
 
-std::string ReportPanel::saveTo(const QString& path) const { return writeReportPdf(pages(PageRule::Paper), path); }
+std::string ReportPanel::saveTo(const QString& path) {
+    std::string error = writeReportPdf(pages(PageRule::Paper), path);
+    savedNote_->setText(error.empty() ? QStringLiteral("Relatório gravado em %1").arg(QDir::toNativeSeparators(
+                                                                                     QFileInfo(path).absoluteFilePath()))
+                                      : QString());
+    savedNote_->setVisible(error.empty());
+    return error;
+}
 
 void ReportPanel::cancel() {
     if (caller_) caller_->setEnabled(true);

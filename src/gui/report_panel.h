@@ -23,14 +23,22 @@ namespace morve {
 class PagePreview : public QWidget {
 public:
     explicit PagePreview(QWidget* parent = nullptr);
-    void setPage(const ReportPage* page);
+    // The page shown, and the whole report, whose widest line sets the font size.
+    void setPage(const ReportPage* page, const std::vector<ReportPage>* report = nullptr);
 
 protected:
     void paintEvent(QPaintEvent*) override;
 
 private:
     const ReportPage* page_ = nullptr;
+    const std::vector<ReportPage>* report_ = nullptr;
 };
+
+// The name a saved report is offered under: the example's title when there is
+// one, else the report's title, else the module's caption; made safe for a file
+// name, with ".pdf".
+QString suggestedPdfName(const std::string& exampleTitle, const std::string& reportTitle,
+                         const std::string& moduleCaption);
 
 class ReportPanel : public QWidget {
 public:
@@ -48,7 +56,8 @@ public:
     void backToPanel();         // "Imprimir" of the preview
     void print();               // "Im&primir": the print dialog, then the printer
     void save();                // "&Salvar": the file dialog, then saveTo
-    std::string saveTo(const QString& path) const;  // "" on success
+    std::string saveTo(const QString& path);  // "" on success; the panel says where it wrote
+    QString suggestedName() const;
     void cancel();              // "&Cancelar"
 
     int selectedPage() const { return selected_; }
@@ -75,7 +84,7 @@ private:
     QSize savedSize_;
     std::vector<ReportPage> screenPages_;
 
-    QLabel *label2_, *label3_, *slash_;
+    QLabel *label2_, *label3_, *slash_, *savedNote_;
     QLineEdit *text1_, *text2_, *text11_, *text22_;
     QPushButton *command1_, *command2_, *command3_, *command6_, *command7_;
     QToolButton *command4_, *command5_;

@@ -19,7 +19,10 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include <set>
+
 #include "gui/key_filter_guard.h"
+#include "gui/keyboard.h"
 #include "gui/picture_views.h"
 
 namespace morve {
@@ -65,6 +68,7 @@ int boxWidth(const QWidget* w, int characters) {
 }
 
 constexpr int kGridMinimumHeight = 160;
+constexpr int kWidestButton = 420;  // a button does not run across a maximised window
 constexpr int kGridRowsShown = 10;  // more rows than this scroll
 
 // A short table shows all its rows without a scroll bar; a long one scrolls.
@@ -124,7 +128,6 @@ ScreenWindow::ScreenWindow(const ScreenDecl& screen, QWidget* parent) : QWidget(
 
     auto* frames = new QGridLayout();
     frames->setSpacing(8);
-    outer->addLayout(frames);
     std::map<std::string, QGridLayout*> frameGrids;
     std::map<std::string, std::string> frameCaptions;
     for (const FrameDecl& f : decl_.frames) {
@@ -147,35 +150,66 @@ ScreenWindow::ScreenWindow(const ScreenDecl& screen, QWidget* parent) : QWidget(
     }
     // Controls outside any frame stand below the frames.
     auto* loose = new QGridLayout();
-    outer->addLayout(loose);
-    for (const ControlDecl& c : decl_.controls) {
+    std::set<QGridLayout*> growing;
+    const auto& controls = decl_.controls;
+    for (std::size_t i = 0; i < controls.size();) {
+        // A control and those declared to share its row.
+        std::size_t end = i + 1;
+        while (end < controls.size() && controls[end].sameRow) ++end;
+        const ControlDecl& c = controls[i];
         auto it = frameGrids.find(c.frame);
-        if (it != frameGrids.end())
-            addControl(it->second, c, frameCaptions[c.frame]);
-        else
-            addControl(loose, c, "");
+        QGridLayout* grid = it != frameGrids.end() ? it->second : loose;
+        const std::string caption = it != frameGrids.end() ? frameCaptions[c.frame] : "";
+        if (end == i + 1) {
+            if (addControl(grid, c, caption)) growing.insert(grid);
+        } else {
+            auto* row = new QHBoxLayout();
+            grid->addLayout(row, grid->rowCount(), 0, 1, kWholeWidth);
+            for (std::size_t k = i; k < end; ++k) placeInRow(row, makeControl(controls[k], caption));
+            row->addStretch(1);
+        }
+        i = end;
     }
-    outer->addStretch(1);
+
+    // Pictures, charts and grids take the room a larger window offers; frames of
+    // plain boxes keep their controls together at the top.
+    for (const FrameDecl& f : decl_.frames) {
+        QGridLayout* grid = frameGrids[f.name];
+        if (growing.count(grid)) {
+            for (int r = f.row; r < f.row + f.rowSpan; ++r) frames->setRowStretch(r, 1);
+            for (int col = f.column; col < f.column + f.columnSpan; ++col) frames->setColumnStretch(col, 1);
+        } else {
+            grid->setRowStretch(grid->rowCount(), 1);
+        }
+    }
+    const bool grows = !growing.empty();
+    outer->addLayout(frames, grows && !growing.count(loose) ? 1 : 0);
+    outer->addLayout(loose, growing.count(loose) ? 1 : 0);
+    if (!grows) outer->addStretch(1);
+
+    // Esc on a companion is its "&Voltar", when that is there to press; a module's
+    // own window has no such way back, and its close would lose the case.
+    onEscape(this, [this] {
+        for (const ControlDecl& c : decl_.controls) {
+            if (c.kind != ControlKind::Command || c.caption != "&Voltar") continue;
+            auto* button = static_cast<QPushButton*>(controls_.at(c.name));
+            if (button->isVisible() && button->isEnabled()) button->click();
+            return;
+        }
+    });
 }
 
 QString ScreenWindow::qualified(const std::string& control) const { return q(decl_.name + "." + control); }
 
-void ScreenWindow::addControl(QGridLayout* grid, const ControlDecl& c, const std::string& frameCaption) {
-    const int row = grid->rowCount();
-    QWidget* widget = nullptr;
-    std::vector<QWidget*> labels;
-    auto caption = [&](int column = 0) {
-        if (c.caption.empty() || c.caption == frameCaption) return;
-        auto* label = new QLabel(q(c.caption), this);
-        grid->addWidget(label, row, column);
-        labels.push_back(label);
-    };
-    auto unit = [&] {
-        if (c.unit.empty()) return;
-        auto* label = new QLabel(q(c.unit), this);
-        grid->addWidget(label, row, 2);
-        labels.push_back(label);
-    };
+ScreenWindow::ControlParts ScreenWindow::makeControl(const ControlDecl& c, const std::string& frameCaption) {
+    ControlParts parts;
+    // Buttons, options, checks and labels carry their caption themselves.
+    const bool captioned = c.kind == ControlKind::TextBox || c.kind == ControlKind::ResultBox ||
+                           c.kind == ControlKind::List || c.kind == ControlKind::Grid;
+    if (captioned && !c.caption.empty() && c.caption != frameCaption)
+        parts.caption = new QLabel(q(c.caption), this);
+    if (!c.unit.empty() && (c.kind == ControlKind::TextBox || c.kind == ControlKind::ResultBox))
+        parts.unit = new QLabel(q(c.unit), this);
 
     switch (c.kind) {
         case ControlKind::TextBox:
@@ -190,19 +224,13 @@ void ScreenWindow::addControl(QGridLayout* grid, const ControlDecl& c, const std
             } else {
                 KeyFilterGuard::install(edit, c.filter);
             }
-            caption();
-            grid->addWidget(edit, row, 1, Qt::AlignLeft);
-            unit();
-            widget = edit;
+            parts.widget = edit;
             break;
         }
         case ControlKind::Label: {
             auto* label = new QLabel(q(c.caption), this);
-            label->setWordWrap(true);
-            // A wrapped label keeps out of the spare column: a span that takes it in
-            // gets the height of one line while the text wraps to two.
-            grid->addWidget(label, row, 0, 1, kSpareColumn);
-            widget = label;
+            label->setWordWrap(!c.sameRow);
+            parts.widget = label;
             break;
         }
         case ControlKind::List: {
@@ -215,10 +243,9 @@ void ScreenWindow::addControl(QGridLayout* grid, const ControlDecl& c, const std
             for (const auto& item : c.items)
                 widest = std::max(widest, list->fontMetrics().horizontalAdvance(q(item)));
             list->setMinimumWidth(std::min(widest + 36, 360));
-            const bool captioned = !c.caption.empty() && c.caption != frameCaption;
-            caption();
-            grid->addWidget(list, row, captioned ? 1 : 0, 1, captioned ? kWholeWidth - 1 : kWholeWidth);
-            widget = list;
+            // A wider window gives a list no more to show.
+            list->setMaximumWidth(std::max(list->minimumWidth(), 280));
+            parts.widget = list;
             break;
         }
         case ControlKind::Option: {
@@ -232,16 +259,10 @@ void ScreenWindow::addControl(QGridLayout* grid, const ControlDecl& c, const std
             connect(radio, &QRadioButton::clicked, this, [this, name] {
                 if (onCommand) onCommand(name);
             });
-            grid->addWidget(radio, row, 0, 1, kWholeWidth);
-            widget = radio;
+            parts.widget = radio;
             break;
         }
-        case ControlKind::Check: {
-            auto* check = new QCheckBox(q(c.caption), this);
-            grid->addWidget(check, row, 0, 1, kWholeWidth);
-            widget = check;
-            break;
-        }
+        case ControlKind::Check: parts.widget = new QCheckBox(q(c.caption), this); break;
         case ControlKind::Grid: {
             auto* table = new QTableWidget(this);
             table->setColumnCount(static_cast<int>(c.grid.header.size()));
@@ -252,38 +273,68 @@ void ScreenWindow::addControl(QGridLayout* grid, const ControlDecl& c, const std
             KeyFilterGuard::install(table, c.filter);
             table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
             table->setMinimumHeight(kGridMinimumHeight);
-            caption();
-            grid->addWidget(table, row + (labels.empty() ? 0 : 1), 0, 1, kWholeWidth);
-            widget = table;
+            parts.widget = table;
             break;
         }
-        case ControlKind::Picture: {
-            auto* view = new DrawingView(QSize(c.width, c.height), this);
-            grid->addWidget(view, row, 0, 1, kWholeWidth, Qt::AlignCenter);
-            widget = view;
-            break;
-        }
-        case ControlKind::Chart: {
-            auto* chart = new ChartBox(QSize(c.width, c.height), this);
-            grid->addWidget(chart, row, 0, 1, kWholeWidth);
-            widget = chart;
-            break;
-        }
+        case ControlKind::Picture: parts.widget = new DrawingView(QSize(c.width, c.height), this); break;
+        case ControlKind::Chart: parts.widget = new ChartBox(QSize(c.width, c.height), this); break;
         case ControlKind::Command: {
             auto* button = new QPushButton(q(c.caption), this);
+            button->setMaximumWidth(kWidestButton);
             const std::string name = c.name;
             connect(button, &QPushButton::clicked, this, [this, name] {
                 if (onCommand) onCommand(name);
             });
-            grid->addWidget(button, row, 0, 1, kWholeWidth);
-            widget = button;
+            parts.widget = button;
             break;
         }
     }
-    widget->setObjectName(q(c.name));
-    if (!c.toolTip.empty()) widget->setToolTip(q(c.toolTip));
-    controls_[c.name] = widget;
-    companions_[c.name] = labels;
+    parts.widget->setObjectName(q(c.name));
+    if (!c.toolTip.empty()) parts.widget->setToolTip(q(c.toolTip));
+    controls_[c.name] = parts.widget;
+    auto& labels = companions_[c.name];
+    for (QWidget* label : {static_cast<QWidget*>(parts.caption), static_cast<QWidget*>(parts.unit)})
+        if (label) labels.push_back(label);
+    return parts;
+}
+
+void ScreenWindow::placeInRow(QHBoxLayout* row, const ControlParts& parts) {
+    // Boxes in a phrase keep their usual width; the phrase does not spread out.
+    if (auto* edit = qobject_cast<QLineEdit*>(parts.widget)) edit->setMaximumWidth(edit->minimumWidth());
+    for (QWidget* w : {static_cast<QWidget*>(parts.caption), parts.widget, static_cast<QWidget*>(parts.unit)})
+        if (w) row->addWidget(w);
+}
+
+bool ScreenWindow::addControl(QGridLayout* grid, const ControlDecl& c, const std::string& frameCaption) {
+    const ControlParts parts = makeControl(c, frameCaption);
+    const int row = grid->rowCount();
+    if (parts.caption) grid->addWidget(parts.caption, row, 0);
+    if (parts.unit) grid->addWidget(parts.unit, row, 2);
+    switch (c.kind) {
+        case ControlKind::TextBox:
+        case ControlKind::ResultBox: grid->addWidget(parts.widget, row, 1, Qt::AlignLeft); return false;
+        case ControlKind::Label:
+            // A wrapped label keeps out of the spare column: a span that takes it in
+            // gets the height of one line while the text wraps to two.
+            grid->addWidget(parts.widget, row, 0, 1, kSpareColumn);
+            return false;
+        case ControlKind::List:
+            grid->addWidget(parts.widget, row, parts.caption ? 1 : 0, 1, parts.caption ? kWholeWidth - 1 : kWholeWidth);
+            return false;
+        case ControlKind::Grid: {
+            // The caption stands over the table.
+            const int at = row + (parts.caption ? 1 : 0);
+            grid->addWidget(parts.widget, at, 0, 1, kWholeWidth);
+            grid->setRowStretch(at, 1);
+            return true;
+        }
+        case ControlKind::Picture:
+        case ControlKind::Chart:
+            grid->addWidget(parts.widget, row, 0, 1, kWholeWidth);
+            grid->setRowStretch(row, 1);
+            return true;
+        default: grid->addWidget(parts.widget, row, 0, 1, kWholeWidth); return false;
+    }
 }
 
 QWidget* ScreenWindow::control(const std::string& name) const {

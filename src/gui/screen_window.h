@@ -18,6 +18,8 @@
 class QAction;
 class QButtonGroup;
 class QGridLayout;
+class QHBoxLayout;
+class QLabel;
 class QToolBar;
 
 namespace morve {
@@ -63,7 +65,18 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void addControl(QGridLayout* grid, const ControlDecl& c, const std::string& frameCaption);
+    // A control's widget with its caption and unit labels, made but not yet placed.
+    struct ControlParts {
+        QLabel* caption = nullptr;
+        QWidget* widget = nullptr;
+        QLabel* unit = nullptr;
+    };
+    ControlParts makeControl(const ControlDecl& c, const std::string& frameCaption);
+    // On a row of its own in the frame's grid; true when the control can use more
+    // room than it asks for (a picture, a chart or a grid).
+    bool addControl(QGridLayout* grid, const ControlDecl& c, const std::string& frameCaption);
+    // Beside the controls of the row before it.
+    void placeInRow(QHBoxLayout* row, const ControlParts& parts);
     QString qualified(const std::string& control) const;
 
     ScreenDecl decl_;

@@ -1,11 +1,14 @@
 #include "gui/screenshots.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
+#include <QTimer>
 #include <QPainter>
 #include <QTextStream>
 
@@ -20,6 +23,7 @@
 #include "gui/report_panel.h"
 #include "gui/screen_window.h"
 #include "gui/start_windows.h"
+#include "gui/window_places.h"
 
 namespace morve {
 
@@ -35,6 +39,36 @@ bool save(QWidget* w, const QString& folder, const char* name) {
     const bool ok = w->grab().save(path);
     std::fprintf(stderr, "%s %s\n", ok ? "gravado" : "falhou", qPrintable(path));
     return ok;
+}
+
+// Windows as they stand on the screen, each at its place with a frame drawn
+// round it, so that one covering another shows.
+QImage desktopPicture(const std::vector<QWidget*>& windows) {
+    QImage desk(screenArea(windows.front()).size(), QImage::Format_RGB32);
+    desk.fill(QColor(0x2c, 0x4f, 0x7c));
+    QPainter painter(&desk);
+    const QPoint origin = screenArea(windows.front()).topLeft();
+    for (QWidget* w : windows) {
+        const QRect frame = framedGeometry(w).translated(-origin);
+        painter.fillRect(frame, QColor(0xdd, 0xdd, 0xdd));
+        painter.drawRect(frame.adjusted(0, 0, -1, -1));
+        painter.drawText(frame.adjusted(8, 0, 0, 0), Qt::AlignLeft | Qt::AlignTop, w->windowTitle());
+        painter.drawPixmap(w->geometry().topLeft() - origin, w->grab());
+    }
+    return desk;
+}
+
+// The "Sair" question as the desktop shows it, answered No.
+bool exitQuestion(MorveApp& app, const QString& folder) {
+    bool ok = false;
+    QTimer::singleShot(50, [&] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            ok = save(box, folder, "sair.png");
+            box->button(QMessageBox::No)->click();
+        }
+    });
+    app.askExit();
+    return ok && !app.exiting();
 }
 
 // The menu bar with the "Vigas" menu and its submenus open below it.
@@ -274,6 +308,7 @@ int takeScreenshots(const QString& folder) {
 
     ok &= save(app.startDialog(), folder, "aviso.png");
     ok &= save(app.tipWindow(), folder, "dica.png");
+    ok &= desktopPicture({app.startDialog(), app.tipWindow()}).save(folder + "/aviso-e-dica.png");
     app.startDialog()->confirm();
     settle();
     const QImage menu = menuPicture(app.menu());
@@ -292,6 +327,13 @@ int takeScreenshots(const QString& folder) {
     app.module()->press("Form7", "Command1");
     setGuiPrompter(nullptr);
     ok &= save(form7, folder, "form7.png");
+    const QSize usual = form7->size();
+    // As maximised on a usual full-HD desktop, whatever the screen of this run.
+    form7->resize(QSize(1900, 1000));
+    ok &= save(form7, folder, "form7-maximizada.png");
+    form7->showNormal();
+    form7->resize(usual);
+    ok &= exitQuestion(app, folder);
 
     app.module()->toolbar("Form7", "Ajuda");
     ok &= save(app.moduleHelp(), folder, "ajuda7.png");

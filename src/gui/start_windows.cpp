@@ -67,6 +67,7 @@ StartDialog::StartDialog() {
     setObjectName(QStringLiteral("FormAviso"));
     setWindowTitle(QStringLiteral(" MORVE"));
     setAttribute(Qt::WA_DeleteOnClose);
+    setModal(true);
     auto* grid = new QGridLayout(this);
     const std::array<const std::vector<std::string>*, 5> items{
         &StartDefaults::fckItems(), &StartDefaults::steelItems(), &StartDefaults::steelItems(),
@@ -90,8 +91,10 @@ StartDialog::StartDialog() {
         grid->addWidget(caption, n, 0, Qt::AlignRight | Qt::AlignVCenter);
         grid->addWidget(list, n, 1);
     }
-    auto* next = new QPushButton(QStringLiteral(" Próxima dica "), this);
+    auto* next = new QPushButton(QStringLiteral(" &Próxima dica "), this);
     next->setObjectName(QStringLiteral("Command2"));
+    // Enter is "&OK" wherever the focus is; the tip is asked for by a click or Alt+P.
+    next->setAutoDefault(false);
     auto* ok = new QPushButton(QStringLiteral("&OK"), this);
     ok->setObjectName(QStringLiteral("Command1"));
     ok->setDefault(true);

@@ -2,6 +2,7 @@
 // The windows of the start and of the end of a run: the splash (Form0entra), the
 // backdrop behind the modules (Form0b), the start-up defaults (FormAviso) and the
 // closing notice (FormSAIDA).
+#include <QDialog>
 #include <QWidget>
 
 #include <array>
@@ -27,7 +28,9 @@ protected:
 };
 
 // FormAviso: the five lists of the run's defaults, " Próxima dica " and "&OK".
-class StartDialog : public QWidget {
+// Modal: nothing else of the program answers until "&OK", since every module
+// reads the defaults chosen here. Windows made its children (the tip) stay live.
+class StartDialog : public QDialog {
 public:
     StartDialog();
     QListWidget* list(int n) const { return lists_[static_cast<std::size_t>(n - 1)]; }
@@ -37,6 +40,9 @@ public:
 
     std::function<void(const StartDefaults&)> onConfirm;
     std::function<void()> onNextTip;
+
+    // Esc does not skip the choice of the defaults.
+    void reject() override {}
 
 protected:
     void closeEvent(QCloseEvent* event) override;

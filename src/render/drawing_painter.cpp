@@ -13,6 +13,8 @@ namespace morve {
 
 namespace {
 
+constexpr double kSmallestDot = 2.5;  // radius in screen pixels
+
 QColor qcolour(Colour c) { return QColor(c.r, c.g, c.b); }
 
 struct Fit {
@@ -20,22 +22,77 @@ struct Fit {
     QPointF operator()(Point p) const { return {dx + p.x * scale, dy + p.y * scale}; }
 };
 
-Fit fitRegion(const Drawing& d, const QRectF& target) {
-    const double w = d.right - d.left, h = d.bottom - d.top;
+Fit fitRegion(double left, double top, double right, double bottom, const QRectF& target) {
+    const double w = right - left, h = bottom - top;
     Fit f;
     if (!(w > 0) || !(h > 0) || !std::isfinite(w) || !std::isfinite(h)) return f;
     f.scale = std::min(target.width() / w, target.height() / h);
     // Centre the region in the rectangle.
-    f.dx = target.left() + (target.width() - w * f.scale) / 2 - d.left * f.scale;
-    f.dy = target.top() + (target.height() - h * f.scale) / 2 - d.top * f.scale;
+    f.dx = target.left() + (target.width() - w * f.scale) / 2 - left * f.scale;
+    f.dy = target.top() + (target.height() - h * f.scale) / 2 - top * f.scale;
     return f;
+}
+
+QFont labelFont(const Label& t, double pixelScale) {
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(t.size * 96.0 / 72.0 * pixelScale))));
+    return font;
+}
+
+// The extent of a label in device units, about its anchor.
+QRectF labelBox(const Label& t, double pixelScale, const QPaintDevice* device) {
+    const QFontMetricsF metrics(labelFont(t, pixelScale), device);
+    const double width = metrics.horizontalAdvance(QString::fromStdString(t.text));
+    const double left = t.align == TextAlign::Left ? 0 : t.align == TextAlign::Centre ? -width / 2 : -width;
+    return QRectF(left, -metrics.height() / 2, width, metrics.height());
+}
+
+// The region to show: the drawing's own, or the bounds of its shapes. Labels keep
+// their size in pixels whatever the scale, so their room in drawing units is
+// found with the scale it gives, twice over to settle.
+Fit fitDrawing(const Drawing& d, const QRectF& target, double pixelScale, const QPaintDevice* device) {
+    if (!d.fitContent) return fitRegion(d.left, d.top, d.right, d.bottom, target);
+    double l = INFINITY, t = INFINITY, r = -INFINITY, b = -INFINITY;
+    auto take = [&](Point p, double reach = 0) {
+        l = std::min(l, p.x - reach);
+        r = std::max(r, p.x + reach);
+        t = std::min(t, p.y - reach);
+        b = std::max(b, p.y + reach);
+    };
+    for (const Shape& s : d.shapes) {
+        if (const auto* line = std::get_if<Line>(&s.geometry)) {
+            take(line->from);
+            take(line->to);
+        } else if (const auto* p = std::get_if<Polyline>(&s.geometry)) {
+            for (const Point& pt : p->points) take(pt);
+        } else if (const auto* c = std::get_if<Circle>(&s.geometry)) {
+            take(c->centre, c->radius);
+        }
+    }
+    if (!(l < r) || !(t < b)) return fitRegion(d.left, d.top, d.right, d.bottom, target);
+    const double margin = 6 * pixelScale;  // device units kept clear at the edges
+    const QRectF inner = target.adjusted(margin, margin, -margin, -margin);
+    Fit fit = fitRegion(l, t, r, b, inner);
+    for (int round = 0; round < 2; ++round) {
+        double L = l, T = t, R = r, B = b;
+        for (const Shape& s : d.shapes)
+            if (const auto* label = std::get_if<Label>(&s.geometry)) {
+                const QRectF box = labelBox(*label, pixelScale, device);
+                L = std::min(L, label->at.x + box.left() / fit.scale);
+                R = std::max(R, label->at.x + box.right() / fit.scale);
+                T = std::min(T, label->at.y + box.top() / fit.scale);
+                B = std::max(B, label->at.y + box.bottom() / fit.scale);
+            }
+        fit = fitRegion(L, T, R, B, inner);
+    }
+    return fit;
 }
 
 }  // namespace
 
 void paintDrawing(QPainter& painter, const Drawing& drawing, const QRectF& target, double pixelScale) {
     if (drawing.empty()) return;
-    const Fit fit = fitRegion(drawing, target);
+    const Fit fit = fitDrawing(drawing, target, pixelScale, painter.device());
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, true);
     painter.setClipRect(target);
@@ -60,15 +117,16 @@ void paintDrawing(QPainter& painter, const Drawing& drawing, const QRectF& targe
                 painter.drawPolyline(poly);
             }
         } else if (const auto* c = std::get_if<Circle>(&shape.geometry)) {
-            const double r = c->radius * fit.scale;
+            double r = c->radius * fit.scale;
             if (c->filled) {
+                // A bar drawn to scale, but never smaller than a visible dot.
+                r = std::max(r, kSmallestDot * pixelScale);
                 painter.setPen(Qt::NoPen);
                 painter.setBrush(colour);
             }
             painter.drawEllipse(fit(c->centre), r, r);
         } else if (const auto* t = std::get_if<Label>(&shape.geometry)) {
-            QFont font(QStringLiteral("DejaVu Sans"));
-            font.setPixelSize(std::max(1, static_cast<int>(std::lround(t->size * 96.0 / 72.0 * pixelScale))));
+            const QFont font = labelFont(*t, pixelScale);
             painter.setFont(font);
             const QString text = QString::fromStdString(t->text);
             const QFontMetricsF metrics(font, painter.device());

@@ -35,6 +35,7 @@ PageGeometry screenGeometry(const QPaintDevice& device, double width) {
     g.lineHeight = metrics.lineSpacing();
     g.top = metrics.ascent();
     g.pictureWidth = std::max(0.0, width - 2 * g.left);
+    g.textWidth = g.pictureWidth;
     g.pixelScale = device.logicalDpiX() / 96.0;
     return g;
 }
@@ -47,10 +48,37 @@ PageGeometry paperGeometry(const QPaintDevice& device) {
     g.top = 2 * cmY;
     g.lineHeight = 0.5 * cmY;
     g.pictureWidth = 17 * cmX;
+    g.textWidth = 17 * cmX;  // two centimetres of margin on the right as on the left
     g.pixelScale = device.logicalDpiX() / 96.0;
     g.pageNumberAt = QPointF(10 * cmX, 1 * cmY);
     g.pageNumberFont = reportFont(10);
     return g;
+}
+
+double widestLine(const PageGeometry& g, const QPaintDevice& device, const std::vector<ReportPage>& pages) {
+    QFont bold = g.font;
+    bold.setBold(true);
+    const QFontMetricsF plain(g.font, &device), strong(bold, &device);
+    double widest = 0;
+    for (const ReportPage& page : pages)
+        for (const PageLine& line : page.lines)
+            if (!line.picture)
+                widest = std::max(widest, (line.bold ? strong : plain)
+                                              .horizontalAdvance(QString::fromStdString(line.text)));
+    return widest;
+}
+
+void fitWidestLine(PageGeometry& g, const QPaintDevice& device, const std::vector<ReportPage>& pages) {
+    constexpr double kSmallest = 4;  // points; below this a line is better cut than unreadable
+    const double widest = widestLine(g, device, pages);
+    if (!(g.textWidth > 0) || widest <= g.textWidth) return;
+    double size = std::max(kSmallest, g.font.pointSizeF() * g.textWidth / widest);
+    g.font.setPointSizeF(size);
+    // Hinting keeps the advance from shrinking quite in proportion.
+    while (size > kSmallest && widestLine(g, device, pages) > g.textWidth) {
+        size = std::max(kSmallest, size - 0.25);
+        g.font.setPointSizeF(size);
+    }
 }
 
 void paintReportPage(QPainter& painter, const ReportPage& page, const PageGeometry& g) {
@@ -85,7 +113,8 @@ bool paintReportPages(QPagedPaintDevice& device, const std::vector<ReportPage>& 
     device.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF()));
     QPainter painter;
     if (!painter.begin(&device)) return false;
-    const PageGeometry geometry = paperGeometry(device);
+    PageGeometry geometry = paperGeometry(device);
+    fitWidestLine(geometry, device, pages);
     for (std::size_t i = 0; i < pages.size(); ++i) {
         if (i > 0) device.newPage();
         paintReportPage(painter, pages[i], geometry);

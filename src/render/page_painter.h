@@ -24,6 +24,7 @@ struct PageGeometry {
     double top = 0;         // baseline of the first line
     double lineHeight = 0;  // distance of two baselines
     double pictureWidth = 0;
+    double textWidth = 0;   // from the left of the lines to the right margin
     double pixelScale = 1;  // device pixels per screen pixel, for drawings
     QFont font;             // body lines; bold lines use it in bold
     std::optional<QPointF> pageNumberAt;
@@ -38,6 +39,12 @@ PageGeometry paperGeometry(const QPaintDevice& device);
 
 // The report's font face: fixed pitch, so that the columns of its tables line up.
 QFont reportFont(double pointSize);
+
+// The font made smaller, when need be, so that the widest line of the report ends
+// inside the text width: the tables of a report run to column 55 and beyond, and a
+// line cut at the margin loses its number. One size serves every page.
+void fitWidestLine(PageGeometry& geometry, const QPaintDevice& device, const std::vector<ReportPage>& pages);
+double widestLine(const PageGeometry& geometry, const QPaintDevice& device, const std::vector<ReportPage>& pages);
 
 void paintReportPage(QPainter& painter, const ReportPage& page, const PageGeometry& geometry);
 

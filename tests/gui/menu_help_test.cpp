@@ -14,6 +14,7 @@
 #include <QTest>
 #include <QTextBrowser>
 
+#include <functional>
 #include <set>
 
 #include "app/catalogue.h"
@@ -21,23 +22,27 @@
 #include "gui/help_windows.h"
 #include "gui/main_window.h"
 #include "gui/morve_app.h"
+#include "gui/window_places.h"
 #include "gui_test_support.h"
 
 using namespace morve;
 
 namespace {
 
+// A caption as it reads, without its access-key mark.
+QString shown(const QAction* a) { return QString(a->text()).remove(QLatin1Char('&')); }
+
 QMenu* submenu(QWidget* parent, const QString& caption) {
     const QList<QAction*> actions =
         qobject_cast<QMenuBar*>(parent) ? parent->actions() : qobject_cast<QMenu*>(parent)->actions();
     for (QAction* a : actions)
-        if (a->menu() && a->text() == caption) return a->menu();
+        if (a->menu() && shown(a) == caption) return a->menu();
     return nullptr;
 }
 
 QStringList captions(const QList<QAction*>& actions) {
     QStringList out;
-    for (QAction* a : actions) out << a->text();
+    for (QAction* a : actions) out << shown(a);
     return out;
 }
 
@@ -66,7 +71,7 @@ private slots:
             leaves[menuAt] << QString::fromStdString(row.caption);
             QAction* leaf = nullptr;
             for (QAction* a : menuAt->actions())
-                if (!a->menu() && a->text() == QString::fromStdString(row.caption)) leaf = a;
+                if (!a->menu() && shown(a) == QString::fromStdString(row.caption)) leaf = a;
             QVERIFY2(leaf, row.caption.c_str());
             QCOMPARE(leaf->data().toString().toStdString(), row.module);
             // Live exactly when its module is registered.
@@ -75,7 +80,7 @@ private slots:
         for (const auto& [m, expected] : leaves) {
             QStringList got;
             for (QAction* a : m->actions())
-                if (!a->menu()) got << a->text();
+                if (!a->menu()) got << shown(a);
             QCOMPARE(got, expected);
         }
         QVERIFY(menu.moduleAction("Form7")->isEnabled());
@@ -86,8 +91,29 @@ private slots:
                               "    Lajes circulares", "    Lajes poligonais", "    Lajes lisas"}));
         QMenu* help = submenu(bar, "Ajuda");
         QCOMPARE(captions(help->actions()),
-                 QStringList({"Apresentação", "Aj&uda do MORVE", "Metodologia de projeto", "Unidades",
+                 QStringList({"Apresentação", "Ajuda do MORVE", "Metodologia de projeto", "Unidades",
                               "Contato", "Alerta", "Sobre o MORVE"}));
+
+        // Every item has an access key of its own among its siblings; the program's
+        // own mark stays where it is.
+        std::function<void(const QList<QAction*>&)> distinctKeys = [&](const QList<QAction*>& actions) {
+            std::set<QChar> keys;
+            for (QAction* a : actions) {
+                const qsizetype amp = a->text().indexOf('&');
+                QVERIFY2(amp >= 0 && amp + 1 < a->text().size(), qPrintable(a->text()));
+                QVERIFY2(keys.insert(a->text().at(amp + 1).toLower()).second, qPrintable(a->text()));
+                if (a->menu()) distinctKeys(a->menu()->actions());
+            }
+        };
+        distinctKeys(bar->actions());
+        QCOMPARE(help->actions().at(1)->text(), QString("Aj&uda do MORVE"));
+        QCOMPARE(bar->actions().at(0)->text(), QString("    &Lajes maciças"));
+
+        // F10 opens the first menu.
+        menu.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&menu));
+        QTest::keyClick(&menu, Qt::Key_F10);
+        QCOMPARE(bar->activeAction(), bar->actions().at(0));
     }
 
     void helpListShowsTheModulePageAtTheTopRight() {
@@ -115,11 +141,12 @@ private slots:
         settle();
         HelpPageWindow* page = app.moduleHelp();
         QCOMPARE(page->page(), std::string("Ajuda7"));
-        QVERIFY(page->browser()->toPlainText().contains("5,13"));
+        QVERIFY(page->browser()->toPlainText().contains("5.13"));
+        // The place is that of the window with its frame, title bar included.
         const QRect screen = page->screen()->availableGeometry();
-        const int width = page->frameGeometry().width();
-        QVERIFY(std::abs(page->x() - (screen.left() + int(screen.width() - 1.01 * width))) <= 1);
-        QVERIFY(std::abs(page->y() - (screen.top() + int(0.01 * screen.height()))) <= 1);
+        const QRect frame = framedGeometry(page);
+        QVERIFY(std::abs(frame.x() - (screen.left() + int(screen.width() - 1.01 * frame.width()))) <= 1);
+        QVERIFY(std::abs(frame.y() - (screen.top() + int(0.01 * screen.height()))) <= 1);
 
         QTest::mouseClick(list->findChild<QPushButton*>("Command3"), Qt::LeftButton);
         settle();
@@ -144,6 +171,11 @@ private slots:
             QVERIFY(app.generalHelp()->isVisible());
             QVERIFY2(app.generalHelp()->browser()->toPlainText().contains(words), command.c_str());
         }
+        // Esc closes a help window.
+        app.generalHelp()->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(app.generalHelp()));
+        QTest::keyClick(app.generalHelp(), Qt::Key_Escape);
+        QVERIFY(!app.generalHelp()->isVisible());
         app.generalHelp()->showPage("AjudaQueNaoExiste");
         QVERIFY(app.generalHelp()->browser()->toPlainText().contains("Página de ajuda não encontrada"));
         QVERIFY(app.generalHelp()->browser()->toPlainText().contains("AjudaQueNaoExiste.html"));

@@ -6,6 +6,7 @@
 
 #include <clocale>
 
+#include "gui/window_places.h"
 #include "module_user.h"
 
 using namespace morve;
@@ -32,8 +33,23 @@ private slots:
         QVERIFY(app().menu()->isVisible());
         QVERIFY(app().startDialog() && app().startDialog()->isVisible());
         QVERIFY(app().backdrop()->isVisible());
-        QVERIFY(app().tipWindow()->isVisible());
-        app().startDialog()->confirm();  // "&OK" with the first selections
+        // The dialog holds the program; the tip beside it covers nothing of it and
+        // stays live, and Esc does not skip the choice.
+        StartDialog* aviso = app().startDialog();
+        TipWindow* tip = app().tipWindow();
+        QVERIFY(tip->isVisible());
+        QCOMPARE(QApplication::activeModalWidget(), aviso);
+        QCOMPARE(tip->parentWidget(), aviso);
+        QVERIFY(!framedGeometry(tip).intersects(framedGeometry(aviso)));
+        QTest::keyClick(aviso, Qt::Key_Escape);
+        settle();
+        QVERIFY(app().startDialog());
+        tip->close();
+        QTest::mouseClick(aviso->findChild<QPushButton*>("Command2"), Qt::LeftButton);
+        QVERIFY(tip->isVisible() && !framedGeometry(tip).intersects(framedGeometry(aviso)));
+        // Enter is "&OK", with the first selections, wherever the focus is.
+        aviso->list(1)->setFocus();
+        QTest::keyClick(aviso->list(1), Qt::Key_Return);
         settle();
         QCOMPARE(app().defaults().list(1), std::string("20"));
         QCOMPARE(app().defaults().list(3), std::string("CA-50"));
@@ -122,9 +138,13 @@ private slots:
         settle();
         QVERIFY(form7()->isVisible());
 
-        // A later failure blanks the results but leaves "Imprimir" enabled.
+        // A later failure blanks the results, already blank on the screen when its
+        // box comes up, but leaves "Imprimir" enabled.
         user->type("Form7", "Text6", "0");
+        QString atTheBox = "<nenhuma caixa>";
+        user->prompter().onBox = [&] { atTheBox = user->text("Form7", "Text7"); };
         user->click("Form7", "Command1");
+        QCOMPARE(atTheBox, QString(" "));
         QCOMPARE(told(), std::size_t(1));
         QCOMPARE(user->focus("Form7"), user->control("Form7", "Text6"));
         QCOMPARE(user->text("Form7", "Text7"), QString(" "));

@@ -8,6 +8,7 @@
 #include <QTableWidget>
 #include <QTest>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -17,6 +18,21 @@
 #include "gui/morve_app.h"
 #include "gui/screen_window.h"
 #include "gui_test_support.h"
+
+// Scripted answers, and a look at the windows each time a box would come up.
+class WatchingPrompter : public morve::ScriptedPrompter {
+public:
+    using ScriptedPrompter::ScriptedPrompter;
+    std::function<void()> onBox = [] {};
+    void warn(const std::string& text, const std::string& title) override {
+        onBox();
+        ScriptedPrompter::warn(text, title);
+    }
+    bool askYesNo(const std::string& text, const std::string& title) override {
+        onBox();
+        return ScriptedPrompter::askYesNo(text, title);
+    }
+};
 
 class ModuleUser {
 public:
@@ -37,6 +53,7 @@ public:
 
     morve::MorveApp& app() { return *app_; }
     const morve::ScriptedPrompter& told() const { return *prompter_; }
+    WatchingPrompter& prompter() { return *prompter_; }
 
     // The module's leaf of the menu.
     bool open(const std::string& module) {
@@ -56,7 +73,7 @@ public:
 
     // The answers of the message boxes of the next clicks, in order.
     void answer(std::vector<std::string> answers) {
-        prompter_ = std::make_unique<morve::ScriptedPrompter>(std::move(answers));
+        prompter_ = std::make_unique<WatchingPrompter>(std::move(answers));
         morve::setGuiPrompter(prompter_.get());
     }
 
@@ -125,5 +142,5 @@ public:
 
 private:
     std::unique_ptr<morve::MorveApp> app_;
-    std::unique_ptr<morve::ScriptedPrompter> prompter_;
+    std::unique_ptr<WatchingPrompter> prompter_;
 };

