@@ -73,17 +73,10 @@ TEST(WindPressure, AtTenMetresByHandForEachCategory) {
 const std::vector<BracingPanel> kPlan = {{10, 2, 0, 1000}, {10, 8, 0, 1000}, {10, 5, 0, 2000},
                                          {0, 5, 90, 500},  {20, 5, 90, 500}};
 
-TEST(WindFloor, SharesByStiffnessAndKeepsEquilibrium) {
-    // A force at the centre goes to the panels of its direction by stiffness.
-    const FloorShare x = distributeToPanels(kPlan, {100, 0, -100 * 5});
-    ASSERT_EQ(x.status, FloorStatus::Solved);
-    const double byStiffness[] = {25, 25, 50, 0, 0};
-    for (int i = 0; i < 5; ++i) EXPECT_NEAR(x.forces[i], byStiffness[i], 1e-9);
-    const FloorShare y = distributeToPanels(kPlan, {0, 60, 60 * 10});
-    for (int i = 0; i < 5; ++i) EXPECT_NEAR(y.forces[i], i < 3 ? 0 : 30, 1e-9);
-
-    // Any load: the panel forces give back the forces and the torque, on a plan
-    // with inclined panels too.
+TEST(WindFloor, PanelsKeepTheFloorInEquilibriumUnlessItMovesFreely) {
+    // The shares of a centred force are in the runs of Form32 below; here any load
+    // on a plan with inclined panels too: the panel forces give back the forces and
+    // the torque.
     std::vector<BracingPanel> skew = kPlan;
     skew.push_back({4, 7, 30, 800});
     skew.push_back({15, 1, 60, 1200});
@@ -222,39 +215,32 @@ TEST(Form32, WindAtZeroNinetyAndAHundredAndEightyDegrees) {
                              "Segundo a direção x: eb/B= +10.0 %", "Na direção x: Fx= 35.31 kN",
                              "Na direção y: Fy= 0 kN", "Painel= 5  Força = -1.5 kN"})
         EXPECT_NE(std::find(report.begin(), report.end(), line), report.end()) << line;
-}
 
-TEST(Form32, ChartCoefficientsPairTheFacesWithTheirOwnHeights) {
-    // Low turbulence: Cax with A/B = 2 and H/A = 1.5 lies between the chart's
-    // 1.20 and 1.35; Cay with B/A = 0.5 and H/B = 3 is the chart's 1.00.
-    BeamRun run = building();
+    // Low turbulence: Cax with A/B = 2 and H/A = 1.5 lies between the chart's 1.20
+    // and 1.35; Cay with B/A = 0.5 and H/B = 3 is the chart's 1.00.
     run.session.state().setOption("Form32c.Option1", true);
     ASSERT_TRUE(run.press("Command3").completed) << run.lastMessage();
-    EXPECT_GT(run.number("Form32c.Text5"), 1.20);
-    EXPECT_LT(run.number("Form32c.Text5"), 1.35);
+    EXPECT_TRUE(run.number("Form32c.Text5") > 1.2 && run.number("Form32c.Text5") < 1.35);
     EXPECT_NEAR(run.number("Form32c.Text6"), 1.00, 0.03);
 }
 
 TEST(Form32, HostileTextsEndInAResultOrAMessage) {
     const std::string hostile[] = {"", "abc", "1e308", "-0", "-1", "99999999", "0.0000001", "1" + std::string(400, '0')};
-    std::vector<std::string> boxes = {"Text1", "Text2", "Text3", "Text4", "Form32b.Text1", "Form32b.Text2",
-                                      "Form32b.Text3", "Form32c.Text1", "Form32c.Text2", "Form32c.Text3",
-                                      "Form32c.Text4", "Form32c.Text5", "Form32c.Text6"};
-    for (int r = 1; r <= 5; ++r)
-        for (int c = 0; c <= 4; ++c) boxes.push_back(std::to_string(r) + "," + std::to_string(c));
+    std::vector<std::string> places = {"Text1", "Text2", "Text3", "Text4"};
+    for (const char* screen : {"Form32b.Text", "Form32c.Text"})
+        for (int i = 1; i <= (screen[6] == 'b' ? 3 : 6); ++i) places.push_back(screen + std::to_string(i));
+    for (int cell = 5; cell < 30; ++cell) places.push_back(std::to_string(cell));  // row cell / 5, column cell % 5
     for (bool charts : {false, true})
-        for (const std::string& box : boxes)
+        for (const std::string& place : places)
             for (const std::string& text : hostile) {
-                SCOPED_TRACE(box + " = " + text.substr(0, 12));
+                SCOPED_TRACE(place + " = " + text.substr(0, 12));
                 BeamRun run = building({"no", "no"});
                 if (charts) run.session.state().setOption("Form32c.Option2", true);
-                if (box.find(',') == std::string::npos) run.set({{box, text}});
-                else run.session.state().grid("Form32b.Grade1")[box[0] - '0'][box[2] - '0'] = text;
-                const Outcome o = run.press("Command3");
-                EXPECT_TRUE(o.completed || !run.prompter.messages().empty());
+                if (std::isdigit(place[0])) run.session.state().grid("Form32b.Grade1")[std::stoi(place) / 5][std::stoi(place) % 5] = text;
+                else run.set({{place, text}});
+                EXPECT_TRUE(run.press("Command3").completed || !run.prompter.messages().empty());
                 for (const auto& row : run.session.state().grid("Form32.Grade1"))
-                    for (const std::string& cell : row)
-                        EXPECT_TRUE(cell.find("nan") == std::string::npos && cell.find("inf") == std::string::npos);
+                    EXPECT_EQ(row[1].find_first_of("ni"), std::string::npos) << row[1];
             }
 }
 
