@@ -169,7 +169,7 @@ Outcome calculate(FormState& s, Prompter& prompter) {
 
 GridDecl panelTable() {
     GridDecl g;
-    g.header = {"Painel", "Centro x (m)", "Centro y (m)", "Inclinação (graus)", "Rigidez K (kN/m)"};
+    g.header = {"Painel", "Centro x", "Centro y", "Inclinação", "Rigidez K"};
     g.maxRows = kMaxPanels;
     return g;
 }
@@ -213,24 +213,24 @@ std::vector<ScreenDecl> Form32::screens() const {
         .grid("Grade1", forceTable());
 
     ScreenBuilder panels("Form32b", "Dados do contraventamento", false);
-    panels.frame("Frame1", "Painéis de contraventamento", 0, 0)
-        .grid("Grade1", panelTable())
-        .label("Label1", "Inclinação: ângulo do plano do painel com o eixo x, entre 0 e 90 graus")
-        .label("Label2", "Utilize as setas do teclado para se deslocar dentro das grades");
-    panels.frame("Frame2", "Piso em estudo", 0, 1)
+    panels.frame("Frame1", "Painéis de contraventamento (centro em m, inclinação em graus, rigidez em kN/m)", 0, 0, 1, 2).grid("Grade1", panelTable());
+    panels.frame("Frame2", "Piso em estudo", 1, 0)
         .box("Text1", "Altura do piso para cálculo: Z (m) =")
         .box("Text2", "hi (m) =")
         .tip("Altura do andar inferior")
         .box("Text3", "hs (m) =")
         .tip("Altura do andar superior")
-        .label("Label3", "Altura de influência: L=(hs+hi)/2")
+        .label("Label3", "Altura de influência: L=(hs+hi)/2");
+    panels.frame("Frame3", "", 1, 1)
+        .label("Label1", "Inclinação: ângulo do plano do painel com o eixo x, entre 0 e 90 graus")
+        .label("Label2", "Utilize as setas do teclado para se deslocar dentro das grades")
         .command("Command1", "OK");
 
     ScreenBuilder wind("Form32c", "Dados do vento", false);
     wind.frame("Frame1", "Vento", 0, 0)
         .box("Text1", "Velocidade básica : Vo (m/s) =")
+        .label("Label1", "Ângulo de incidência do vento com o eixo x:")
         .box("Text2", "(graus) =", "0")
-        .tip("Ângulo de incidência do vento com o eixo x")
         .box("Text3", "Fator topográfico S1 =", "1")
         .box("Text4", "Fator estatístico S3 =", "1")
         .list("List1", "Rugosidade do terreno:  Categoria =", {"I", "II", "III", "IV", "V"})
