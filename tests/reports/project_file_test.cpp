@@ -1,0 +1,203 @@
+// Project files: what is saved comes back byte for byte, the format reads as it
+// is written by hand, every malformed file is refused with the module's data
+// untouched, the save replaces its target in one step, and the typed name filter.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "app/module.h"
+#include "reports/project_file.h"
+
+using namespace morve;
+namespace fs = std::filesystem;
+
+namespace {
+
+// A module with every kind of input a project file keeps: boxes, a list, an
+// option group, a check, a numbered grid of up to 30 rows and a free grid.
+class FileModule : public Module {
+public:
+    ModuleInfo info() const override {
+        ModuleInfo i;
+        i.key = "Form90";
+        i.files = true;
+        return i;
+    }
+    std::vector<ScreenDecl> screens() const override {
+        ScreenBuilder main("Form90", "Viga de teste");
+        main.frame("Frame1", "Dados", 0, 0)
+            .box("Text1", "Título")
+            .box("Text2", "Vãos", "2", "", KeyFilter::Digit)
+            .result("Text3", "Reação")
+            .list("List1", "Concreto", {"C20", "C25", "C30"}, "C25")
+            .option("Option1", "Engaste", "apoio", true)
+            .option("Option2", "Apoio simples", "apoio")
+            .check("Check1", "Considerar peso próprio")
+            .command("Command1", "&CALCULAR");
+        ScreenBuilder loads("Form90b", "Cargas", false);
+        loads.grid("Grade1", GridDecl{{"Vão", "L (m)", "q (kN/m)"}, 2, 30, KeyFilter::PositiveNumber, true})
+            .grid("Grade2", GridDecl{{"Nó", "Restrição"}, 1, 0, KeyFilter::SignedNumber, false});
+        return {main.build(), loads.build()};
+    }
+    Outcome press(const std::string&, FormState&, Prompter&) const override { return Outcome::stop(); }
+};
+
+const FileModule kModule;
+
+FormState fresh() { return ModuleSession(kModule, StartDefaults{}).state(); }
+
+// Texts that break naive writers: quotes, commas, line breaks, accents, the
+// file's own markers, blanks at the ends.
+FormState awkwardCase() {
+    FormState s = fresh();
+    s.setText("Text1", "Viga \"V1\", eixo A\r\nsegunda linha ção");
+    s.setText("Text2", " 20 ");
+    s.setText("Text3", "resultado que o arquivo não guarda");
+    s.setText("List1", "C30");
+    s.setOption("Option2", true);
+    s.setOption("Check1", true);
+    GridRows& spans = s.grid("Form90b.Grade1");
+    spans.resize(1);
+    for (int r = 1; r <= 25; ++r)
+        spans.push_back({std::to_string(r), std::to_string(r) + ".5", r % 2 ? "#TRUE#" : "1,5\"\""});
+    s.grid("Form90b.Grade2") = {{"Nó", "Restrição"}, {"A", ""}, {"", "-1e308"}};
+    return s;
+}
+
+bool sameInputs(const FormState& a, const FormState& b) {
+    for (const std::string& name : kModule.projectFields()) {
+        if (a.text(name) != b.text(name) || a.grid(name) != b.grid(name)) return false;
+    }
+    return true;
+}
+
+fs::path scratchFolder(const std::string& name) {
+    fs::path dir = fs::temp_directory_path() / ("morve-project-test-" + name);
+    fs::remove_all(dir);
+    fs::create_directories(dir);
+    return dir;
+}
+
+}  // namespace
+
+TEST(ProjectFile, EveryInputComesBackByteForByteThroughAFile) {
+    const FormState saved = awkwardCase();
+    const fs::path dir = scratchFolder("roundtrip");
+    const std::string path = (dir / "viga.mor").string();
+    std::ofstream(path) << "an older project";
+    ASSERT_TRUE(saveProjectFile(kModule, saved, path).ok());
+
+    FormState opened = fresh();
+    opened.setText("Text3", "kept");
+    ASSERT_EQ(openProjectFile(kModule, path, opened).message, "");
+    EXPECT_TRUE(sameInputs(saved, opened));
+    EXPECT_EQ(opened.grid("Form90b.Grade1").size(), 26u);
+    EXPECT_EQ(opened.text("Text3"), "kept") << "result boxes are no input";
+    EXPECT_EQ(projectFileTag(path), "Form90");
+    // The save replaced the old file and left no temporary beside it.
+    EXPECT_EQ(std::distance(fs::directory_iterator(dir), fs::directory_iterator()), 1);
+}
+
+TEST(ProjectFile, TheFormatIsTheOneWrittenByHand) {
+    // Tag, Text1, Text2, List1 (index), Option1, Option2, Check1, Grade1 (count,
+    // rows without the numbering), Grade2 (every column).
+    const std::string text =
+        "\"Form90\"\r\n\"a \"\"b\"\", c\"\r\n\"3\"\r\n0\r\n#FALSE#\r\n#TRUE#\r\n#FALSE#\r\n"
+        "2\r\n\"5\",\"10\"\r\n\"6\",\"\"\r\n0\r\n";
+    FormState s = fresh();
+    ASSERT_EQ(readProjectText(kModule, text, s).message, "");
+    EXPECT_EQ(s.text("Text1"), "a \"b\", c");
+    EXPECT_EQ(s.text("List1"), "C20");
+    EXPECT_TRUE(s.option("Option2"));
+    EXPECT_FALSE(s.option("Option1"));
+    EXPECT_EQ(s.grid("Form90b.Grade1"), (GridRows{{"Vão", "L (m)", "q (kN/m)"}, {"1", "5", "10"}, {"2", "6", ""}}));
+    EXPECT_EQ(s.grid("Form90b.Grade2").size(), 1u);
+    EXPECT_EQ(writeProjectText(kModule, s), text);
+    // Lines may end the Unix way, with blanks around the fields and blank lines between.
+    std::string unix = "\"Form90\"\n \"a \"\"b\"\", c\" \n\n\"3\"\n0\n#false#\n#TRUE#\n#FALSE#\n2\n\"5\" , \"10\"\n\"6\",\"\"\n0\n";
+    FormState u = fresh();
+    ASSERT_EQ(readProjectText(kModule, unix, u).message, "");
+    EXPECT_TRUE(sameInputs(s, u));
+}
+
+TEST(ProjectFile, AFaultyFileIsRefusedAndTheModuleKeepsItsData) {
+    const std::string good = writeProjectText(kModule, awkwardCase());
+    auto replaced = [&](const std::string& from, const std::string& to) {
+        std::string t = good;
+        return t.replace(t.find(from), from.size(), to);
+    };
+    const std::string kept = " Os dados do módulo não foram alterados.";
+    const std::string wrongModule = "O arquivo selecionado não corresponde ao módulo atual. Escolha outro arquivo.";
+    struct Case {
+        const char* what;
+        std::string text;
+        std::string message;  // the whole text, or a part of it before the closing sentence
+    } cases[] = {
+        {"another module's file", replaced("\"Form90\"", "\"Form30\""), wrongModule},
+        {"an empty file", "", wrongModule},
+        {"not a project at all", "\x89PNG\r\n\x1a\n\0\0", wrongModule},
+        {"cut in the middle of the grid", good.substr(0, good.find("\"14.5\"")), "está incompleto: termina na linha 22"},
+        {"cut inside a quoted text", good.substr(0, good.rfind("-1e3")), "está incompleto: termina na linha 37"},
+        {"a grid counting one row too many", replaced("\r\n25\r\n", "\r\n26\r\n"), "linha 9 do arquivo selecionado indica 26 linhas"},
+        {"a grid counting one row too few", replaced("\r\n25\r\n", "\r\n24\r\n"), "linha 9 do arquivo selecionado indica 24 linhas"},
+        {"a last grid counting too few", replaced("\r\n2\r\n\"A\"", "\r\n1\r\n\"A\""), "dados a mais a partir da linha 37"},
+        {"more rows than the grid takes", replaced("\r\n25\r\n", "\r\n31\r\n"), "tem 31 linhas, mais do que as 30 que o módulo admite"},
+        {"a row with a cell missing", replaced("\"3.5\",\"#TRUE#\"", "\"3.5\""), "indica 25 linhas"},
+        {"a list item that is not there", replaced("\r\n2\r\n#FALSE#", "\r\n3\r\n#FALSE#"), "a lista não tem o item 3"},
+        {"an option that is no option", replaced("#TRUE#\r\n#TRUE#", "#TRUE#\r\n\"sim\""), "esperava-se #TRUE# ou #FALSE#"},
+        {"a box without quotes", replaced("\" 20 \"", "20"), "esperava-se um texto entre aspas"},
+        {"a huge row count", replaced("\r\n25\r\n", "\r\n99999999999\r\n"), "esperava-se o número de linhas"},
+        {"text after a closing quote", replaced("\" 20 \"", "\" 20 \"x"), "a linha 4 tem um texto entre aspas seguido"},
+    };
+    for (const Case& c : cases) {
+        FormState s = awkwardCase();
+        s.setText("Text1", "what the user had");
+        const FormState before = s;
+        const ProjectResult r = readProjectText(kModule, c.text, s);
+        EXPECT_NE(r.message.find(c.message), std::string::npos) << c.what << ": " << r.message;
+        if (c.message != wrongModule) {
+            EXPECT_TRUE(r.message.ends_with(kept)) << c.what;
+        }
+        EXPECT_EQ(s.texts(), before.texts()) << c.what;
+        EXPECT_EQ(s.grids(), before.grids()) << c.what;
+    }
+}
+
+TEST(ProjectFile, ASaveThatCannotBeWrittenSaysWhyAndLeavesNoFile) {
+    const fs::path dir = scratchFolder("nofolder");
+    const std::string path = (dir / "falta" / "viga.mor").string();
+    EXPECT_EQ(saveProjectFile(kModule, fresh(), path).message,
+              "Não foi possível salvar o arquivo " + path + ": a pasta não existe.");
+    FormState none;
+    EXPECT_EQ(openProjectFile(kModule, path, none).message,
+              "Não foi possível abrir o arquivo " + path + ".");
+    EXPECT_TRUE(fs::is_empty(dir));
+}
+
+TEST(ProjectFile, TypedNamesLoseTheCharactersOfPathsAndExtensions) {
+    const std::pair<std::string, std::string> cases[] = {
+        {"viga", "viga.mor"},
+        {"viga.mor", "viga_mor.mor"},
+        {"../casa/v1", "___casa_v1.mor"},
+        {"a\\b*c+d,e`f|g\"h", "a_b_c_d_e_f_g_h.mor"},
+        {std::string("tab\there\x7f") + '\x01', "tab_here__.mor"},
+        {"Viga contínua (V-12) #3 ção", "Viga contínua (V-12) #3 ção.mor"},
+    };
+    for (const auto& [typed, saved] : cases) EXPECT_EQ(projectFileName(typed), saved) << typed;
+}
+
+TEST(ProjectFile, EveryModuleWithFilesKeepsOnlyInputsAndReadsBackItsOwnFile) {
+    int withFiles = 0;
+    for (const std::string& key : ModuleRegistry::keys()) {
+        const Module& m = *ModuleRegistry::find(key);
+        if (!m.info().files) continue;
+        ++withFiles;
+        FormState s = ModuleSession(m, StartDefaults{}).state();
+        const FormState before = s;
+        ASSERT_NO_THROW(readProjectText(m, writeProjectText(m, s), s)) << key;
+        EXPECT_EQ(s.texts(), before.texts()) << key;
+        EXPECT_EQ(s.grids(), before.grids()) << key;
+    }
+    if (!withFiles) GTEST_SKIP() << "no registered module keeps project files yet";
+}
