@@ -6,42 +6,13 @@
 #include <filesystem>
 #include <fstream>
 
-#include "app/module.h"
+#include "file_module.h"
 #include "reports/project_file.h"
 
 using namespace morve;
 namespace fs = std::filesystem;
 
 namespace {
-
-// A module with every kind of input a project file keeps: boxes, a list, an
-// option group, a check, a numbered grid of up to 30 rows and a free grid.
-class FileModule : public Module {
-public:
-    ModuleInfo info() const override {
-        ModuleInfo i;
-        i.key = "Form90";
-        i.files = true;
-        return i;
-    }
-    std::vector<ScreenDecl> screens() const override {
-        ScreenBuilder main("Form90", "Viga de teste");
-        main.frame("Frame1", "Dados", 0, 0)
-            .box("Text1", "Título")
-            .box("Text2", "Vãos", "2", "", KeyFilter::Digit)
-            .result("Text3", "Reação")
-            .list("List1", "Concreto", {"C20", "C25", "C30"}, "C25")
-            .option("Option1", "Engaste", "apoio", true)
-            .option("Option2", "Apoio simples", "apoio")
-            .check("Check1", "Considerar peso próprio")
-            .command("Command1", "&CALCULAR");
-        ScreenBuilder loads("Form90b", "Cargas", false);
-        loads.grid("Grade1", GridDecl{{"Vão", "L (m)", "q (kN/m)"}, 2, 30, KeyFilter::PositiveNumber, true})
-            .grid("Grade2", GridDecl{{"Nó", "Restrição"}, 1, 0, KeyFilter::SignedNumber, false});
-        return {main.build(), loads.build()};
-    }
-    Outcome press(const std::string&, FormState&, Prompter&) const override { return Outcome::stop(); }
-};
 
 const FileModule kModule;
 
