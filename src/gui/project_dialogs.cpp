@@ -24,7 +24,8 @@ QString& projectFolder() {
 std::string local(const QString& path) { return QFile::encodeName(path).toStdString(); }
 
 // Qt's dialog dressed as the program's: its labels, its filter of "*.mor" files,
-// and the tool tips of its buttons.
+// and the tool tips of its buttons. The accept mode comes first: setting it
+// builds the buttons anew.
 void dress(QFileDialog& dialog, bool saving) {
     dialog.setOption(QFileDialog::DontUseNativeDialog);  // the labels are only ours on Qt's own dialog
     dialog.setDirectory(projectFolder());
@@ -84,9 +85,9 @@ bool saveProjectFrom(ModuleHost& host, const std::string& path) {
 
 void openProjectFromDialog(ModuleHost& host, QWidget* parent) {
     QFileDialog dialog(parent, QStringLiteral(" Abrir arquivo"));
-    dress(dialog, false);
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);
+    dress(dialog, false);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
     const QString path = dialog.selectedFiles().front();
     setProjectFolder(QFileInfo(path).absolutePath());
@@ -95,9 +96,9 @@ void openProjectFromDialog(ModuleHost& host, QWidget* parent) {
 
 void saveProjectFromDialog(ModuleHost& host, QWidget* parent) {
     QFileDialog dialog(parent, QStringLiteral(" Salvar arquivo"));
-    dress(dialog, true);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
+    dress(dialog, true);
     // A project is saved over a file of the same name without a question.
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     filterTypedNames(dialog);

@@ -54,14 +54,15 @@ private slots:
         QTimer::singleShot(0, [&] {
             auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
             QVERIFY(dialog);
-            labels = dialog->labelText(QFileDialog::LookIn) + "|" + dialog->labelText(QFileDialog::Accept);
+            for (auto label : {QFileDialog::LookIn, QFileDialog::FileName, QFileDialog::Accept, QFileDialog::Reject})
+                labels += dialog->labelText(label) + "|";
             dialog->setDirectory(dir.path());
             auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
             QTest::keyClicks(name, "viga.v2");
             QTest::keyClick(name, Qt::Key_Return);
         });
         app.module()->mainWindow()->toolbarAction("Salvar")->trigger();
-        QCOMPARE(labels, QString("Salvar em:|&Salvar"));
+        QCOMPARE(labels, QString("Salvar em:|Nome do arquivo:|&Salvar|Cancelar|"));
         const std::string saved = QDir(dir.path()).filePath("viga_v2.mor").toStdString();
         QVERIFY(QFileInfo::exists(QString::fromStdString(saved)));
 
