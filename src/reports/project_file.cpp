@@ -1,9 +1,11 @@
 #include "reports/project_file.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cerrno>
+#include <cstdio>
+#include <cstdlib>
 #include <cstring>
-#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
@@ -413,11 +415,13 @@ ProjectResult openProjectFile(const Module& module, const std::string& path, For
 }
 
 std::string projectFileTag(const std::string& path) {
-    std::string text;
-    if (!readWholeFile(path, text)) return "";
-    // The tag is on the first line; the rest need not be read to know the module.
-    text = text.substr(0, text.find('\n'));
-    const Parsed parsed = parseFields(text);
+    // The tag is on the first line, and a module key is short: the rest of the file
+    // need not be read to know its module.
+    std::ifstream in(path, std::ios::binary);
+    std::string first(256, '\0');
+    in.read(first.data(), static_cast<std::streamsize>(first.size()));
+    first.resize(static_cast<std::size_t>(in.gcount()));
+    const Parsed parsed = parseFields(first.substr(0, first.find('\n')));
     if (parsed.records.empty() || parsed.records[0].fields.size() != 1 || !parsed.records[0].fields[0].quoted)
         return "";
     return parsed.records[0].fields[0].text;
