@@ -92,6 +92,7 @@ private:
 
 void Spreadsheet::step(bool forward) {
     const int columns = table_->columnCount();
+    if (columns == 0) return leave(forward);
     const int last = table_->rowCount() * columns - 1;
     int at = table_->currentRow() * columns + table_->currentColumn();
     if (table_->currentRow() < 0 || table_->currentColumn() < 0) at = forward ? -1 : last + 1;
@@ -139,6 +140,7 @@ void Spreadsheet::growTo(int rows) {
 }
 
 void Spreadsheet::paste(const QString& clipboard) {
+    if (clipboard.isEmpty() || table_->columnCount() == 0) return;
     QStringList lines = clipboard.split(QLatin1Char('\n'));
     if (lines.size() > 1 && lines.back().trimmed().isEmpty()) lines.removeLast();  // the closing line break
     int width = 1;
