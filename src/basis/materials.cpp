@@ -47,6 +47,10 @@ double DuctilityLimit(DuctilityCriterion criterion, double beta, double fck, dou
     return 0;
 }
 
+double meanTensileStrength(double fck) {
+    return fck <= 50 ? 0.3 * std::pow(fck, 2.0 / 3.0) : 2.12 * std::log(1 + 0.11 * fck);
+}
+
 double MinimumSteelRatio(double fck, double fyd) {
     double rho = fck <= 50 ? 0.078 * std::pow(fck, 2.0 / 3.0) / fyd
                            : 0.5512 * std::log(1 + 0.11 * fck) / fyd;

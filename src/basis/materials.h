@@ -33,6 +33,9 @@ const std::vector<std::string>& redistributionItems();  // "1.00" ... "0.75"
 double DuctilityLimit(DuctilityCriterion criterion, double beta, double fck, double fyk,
                       double gamas, double es);
 
+// fctm (MPa), the mean tensile strength of a concrete of fck MPa.
+double meanTensileStrength(double fck);
+
 // rhomin, with fck and fyd in MPa; never below 0.0015.
 double MinimumSteelRatio(double fck, double fyd);
 

@@ -7,6 +7,7 @@
 #include "app/form_state.h"
 #include "app/screen.h"
 #include "basis/checks.h"
+#include "basis/design_basis.h"
 #include "basis/materials.h"
 
 namespace morve {
@@ -22,9 +23,6 @@ struct ReducedSteel {
     double omega = 0;       // tension steel
     double omegaPrime = 0;  // compression steel
 };
-
-// The limit moment mulim of a rectangle at the ductility limit xlim.
-double rectangularLimitMoment(double xlim, const StressBlockValues& block);
 
 // Compression steel for the moment mu - mulim beyond the limit, with the two limits
 // that stop the run first. omegaLimit is the tension steel at the limit.
@@ -58,32 +56,6 @@ inline const std::string kFlangeWiderThanWeb = "A largura da mesa deve ser maior
 
 // The message of a stop, "" for none.
 const std::string& bendingStopMessage(BendingStop stop);
-
-// What the design modules of beams read and check before the arithmetic, in the
-// same order for the rectangle and the T: fck range, class, fyk and Es positive,
-// steel class and code modulus.
-struct BeamMaterialBoxes {
-    std::string fck, classList, fyk, es;
-};
-void checkBeamMaterials(CheckSequence& checks, const FormState& state, const BeamMaterialBoxes& boxes);
-
-// The frames of a design screen around its section: materials (fck Text1, fyk
-// Text2, Es in esBox) and coefficients (Text13 to Text15) on the left, the class,
-// the ductility criterion and Beta in the row under them.
-void addMaterialFrames(ScreenBuilder& s, const std::string& esBox);
-void addCriterionFrames(ScreenBuilder& s);
-
-// What a bending design works from once its boxes have passed their checks.
-struct DesignBasis {
-    double xlim = 0;
-    StressBlockValues block{};
-    double md = 0;  // kNcm
-    double fyd = 0, sigmacd = 0;  // kN/cm2
-};
-// xlim by the criterion of List2 and the Beta of List3 (the balanced limit allows
-// no redistribution: that stops the run), the block, Md = Gamaf Mk.
-DesignBasis designBasis(CheckSequence& checks, const FormState& state, double fck, double fyk,
-                        double es, double gamac, double gamas, double gamaf, double mk);
 
 // The boxes where a design writes its areas and the screens of its detailing.
 struct DesignOutput {

@@ -94,7 +94,7 @@ Outcome Form10::calculate(FormState& s, Prompter& prompter) const {
     const double gamac = s.number("Text13"), gamas = s.number("Text14"), gamaf = s.number("Text15");
 
     CheckSequence checks(prompter);
-    checkBeamMaterials(checks, s, {"Text1", "List6", "Text2", "Text3"});
+    checkDesignMaterials(checks, s, {"Text1", "List6", "Text2", "Text3"});
     checks.warnIf(bf <= 0, msg::positiveValue("bf"), "Text4")
         .warnIf(hf <= 0, msg::positiveValue("hf"), "Text5")
         .warnIf(bw <= 0, msg::positiveValue("bw"), "Text6")

@@ -91,7 +91,7 @@ Outcome Form7::calculate(FormState& s, Prompter& prompter) const {
     const double gamac = s.number("Text13"), gamas = s.number("Text14"), gamaf = s.number("Text15");
 
     CheckSequence checks(prompter);
-    checkBeamMaterials(checks, s, {"Text1", "List6", "Text2", "Text9"});
+    checkDesignMaterials(checks, s, {"Text1", "List6", "Text2", "Text9"});
     checks.warnIf(b <= 0, msg::positiveValue("b"), "Text3");
     checkBeamWidth(checks, b, "Text3");
     checks.warnIf(h <= 0, msg::kPositiveH, "Text4")

@@ -15,10 +15,6 @@ double concreteShearStress(double fck, double gamac) {
                      : 0.8904 * std::log(1 + 0.11 * fck) / gamac;
 }
 
-double meanTensileStrength(double fck) {
-    return fck <= 50 ? 0.3 * std::pow(fck, 2.0 / 3.0) : 2.12 * std::log(1 + 0.11 * fck);
-}
-
 double minimumStirrupRatio(double fck, double fyk) {
     return 0.2 * meanTensileStrength(fck) / std::min(fyk, 500.0);
 }

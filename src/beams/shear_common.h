@@ -22,8 +22,6 @@ inline const std::string kChooseStirrup = "Escolha um diâmetro para os estribos
 double strutReduction(double fck);
 // tauc, the shear stress the concrete carries.
 double concreteShearStress(double fck, double gamac);
-// fctm, the mean tensile strength.
-double meanTensileStrength(double fck);
 // rhow,min = 0.2 fctm / fyk, with fyk taken at most as 500 MPa (the characteristic
 // strength, not the design one).
 double minimumStirrupRatio(double fck, double fyk);

@@ -211,6 +211,12 @@ void ScreenWindow::addControl(QGridLayout* grid, const ControlDecl& c, const std
             QButtonGroup*& group = groups_[c.group];
             if (!group) group = new QButtonGroup(this);
             group->addButton(radio);
+            // A module may answer the choice at once (a section type swapping its
+            // frames), so the click reaches it as a command of the option's name.
+            const std::string name = c.name;
+            connect(radio, &QRadioButton::clicked, this, [this, name] {
+                if (onCommand) onCommand(name);
+            });
             grid->addWidget(radio, row, 0, 1, kWholeWidth);
             widget = radio;
             break;

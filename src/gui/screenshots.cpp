@@ -131,6 +131,65 @@ bool beamShots(MorveApp& app, const QString& folder) {
         press(*host, "Form10b.Command3");
         ok &= saveScreen(*host, "Form10c", folder, "form10c.png");
     }
+    if (ModuleHost* host = open(app, "Form39")) {  // the example of its help page, with a point load added
+        fill(*host, {{"Text6", "6"}, {"Text7", "1"}, {"Text8", "1"}, {"Text9", "20"}, {"Text10", "50"},
+                     {"Text11", "5"}, {"Text12", "4"}, {"Text13", "6"}, {"Text14", "0"}, {"List1", "12.5"}});
+        ok &= saveScreen(*host, "Form39", folder, "form39.png");
+        press(*host, "Command8");
+        host->session().state().grid("Form39b.Grade2")[1] = {"1", "0", "6", "20"};
+        host->session().state().grid("Form39b.Grade1")[1] = {"1", "2", "15", "0"};
+        fill(*host, {{"Form39b.Text1", "-20"}});
+        ok &= saveScreen(*host, "Form39b", folder, "form39b.png");
+        press(*host, "Form39b.Command1");
+        ok &= saveScreen(*host, "Form39b2", folder, "form39b2.png");
+        press(*host, "Form39b2.Command1");
+        press(*host, "Form39b.Command2");
+        press(*host, "Command3");
+        ok &= saveScreen(*host, "Form39c", folder, "form39c.png");
+    }
+    setGuiPrompter(nullptr);
+    return ok;
+}
+
+// Whole rows of a module's tables, then the windows show them.
+void fillRows(ModuleHost& host, const std::string& grid, const GridRows& rows) {
+    FormState& state = host.session().state();
+    GridRows& g = state.grid(grid);
+    g.resize(1);
+    g.insert(g.end(), rows.begin(), rows.end());
+    for (const ScreenDecl& screen : host.session().module().screens())
+        if (ScreenWindow* w = host.window(screen.name)) w->loadFrom(state);
+}
+
+// The three-span beam of the examples: its results, diagrams and deformed shape.
+bool continuousShots(MorveApp& app, const QString& folder) {
+    ScriptedPrompter answers;
+    setGuiPrompter(&answers);
+    bool ok = true;
+    if (ModuleHost* host = open(app, "Form34")) {
+        fill(*host, {{"Text1", "25"}, {"Text2", "28000"}, {"Text3", "3"}, {"Text4", "4"}, {"Text6", "1"}, {"Text7", "3"}});
+        ok &= saveScreen(*host, "Form34", folder, "form34.png");
+        press(*host, "Command8");
+        fillRows(*host, "Form34b.Grade1", {{"1", "4", "208333"}, {"2", "5", "208333"}, {"3", "4", "208333"}});
+        fillRows(*host, "Form34b.Grade2", {{"1", "2", "0"}, {"2", "1", "0"}, {"3", "1", "0"}, {"4", "1", "0"}});
+        ok &= saveScreen(*host, "Form34b", folder, "form34b.png");
+        press(*host, "Form34b.Command2");
+        press(*host, "Command4");
+        fillRows(*host, "Form34c.Grade2", {{"2", "2.5", "30", "0"}});
+        fillRows(*host, "Form34c.Grade3", {{"1", "0", "4", "15"}, {"2", "0", "5", "15"}, {"3", "0", "4", "15"}});
+        press(*host, "Form34c.Command1");
+        ok &= saveScreen(*host, "Form34c2", folder, "form34c2.png");
+        press(*host, "Form34c2.Command1");
+        press(*host, "Form34c.Command2");
+        press(*host, "Command3");
+        ok &= saveScreen(*host, "Form34d", folder, "form34d.png");
+        press(*host, "Form34d.Command2");
+        press(*host, "Command10");
+        ok &= saveScreen(*host, "Form34e", folder, "form34e.png");
+        press(*host, "Form34e.Command1");
+        press(*host, "Command1");
+        ok &= saveScreen(*host, "Form34g", folder, "form34g.png");
+    }
     setGuiPrompter(nullptr);
     return ok;
 }
@@ -167,6 +226,33 @@ bool columnShots(MorveApp& app, const QString& folder) {
         ok &= saveScreen(*host, "Form35c", folder, "form35c.png");
         press(*host, "Form35c.Command1");
         ok &= saveScreen(*host, "Form35d", folder, "form35d.png");
+    }
+    setGuiPrompter(nullptr);
+    app.returnToMenu();
+    settle();
+    return ok;
+}
+
+// The four-sided slab with its six patterns and its result screen, and the
+// free-edge slab's results.
+bool slabShots(MorveApp& app, const QString& folder) {
+    ScriptedPrompter answers;
+    setGuiPrompter(&answers);
+    bool ok = true;
+    if (ModuleHost* host = open(app, "Form22")) {
+        fill(*host, {{"Text4", "5"}, {"Text5", "2"}, {"Text6", "4"}, {"Text7", "5"}, {"Text8", "10"}});
+        host->session().state().setOption("Form22.Option4", true);
+        fill(*host, {});
+        ok &= saveScreen(*host, "Form22", folder, "form22.png");
+        press(*host, "Command1");
+        ok &= saveScreen(*host, "Form22c", folder, "form22c.png");
+    }
+    if (ModuleHost* host = open(app, "Form24")) {
+        fill(*host, {{"Text4", "5"}, {"Text5", "2"}, {"Text6", "4"}, {"Text7", "3.2"}, {"Text8", "12"}});
+        host->session().state().setOption("Form24.Option3", true);
+        fill(*host, {});
+        press(*host, "Command1");
+        ok &= saveScreen(*host, "Form24b", folder, "form24b.png");
     }
     setGuiPrompter(nullptr);
     app.returnToMenu();
@@ -251,7 +337,9 @@ int takeScreenshots(const QString& folder) {
     setGuiPrompter(nullptr);
     settle();
     ok &= beamShots(app, folder);
+    ok &= continuousShots(app, folder);
     ok &= columnShots(app, folder);
+    ok &= slabShots(app, folder);
     return ok ? 0 : 1;
 }
 

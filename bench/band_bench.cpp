@@ -1,0 +1,63 @@
+// Factor and solve the largest band the screens allow (2406 equations, semi-
+// bandwidth 200), the program's routines and LAPACK's dpbtrf/dpbtrs side by side on
+// the same matrix.
+#include <benchmark/benchmark.h>
+
+#include <random>
+
+#include "numeric/band.h"
+#include "tests/numeric/lapack_band.h"
+
+using namespace morve;
+
+namespace {
+
+constexpr int kN = band_limits::kEquations;
+constexpr int kNb = band_limits::kSemiBandwidth;
+
+const BandMatrix& spdBand() {
+    static const BandMatrix a = [] {
+        std::mt19937 rng(5);
+        return lapack::randomSpd(kN, kNb, rng);
+    }();
+    return a;
+}
+
+LoadVector rightHandSide() {
+    LoadVector b(kN);
+    for (int i = 1; i <= kN; ++i) b(i) = std::sin(i);
+    return b;
+}
+
+void BandCholeskySolve(benchmark::State& state) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        BandMatrix a = spdBand();
+        LoadVector b = rightHandSide();
+        state.ResumeTiming();
+        const bool regular = BandCholesky(a);
+        BandSolve(a, b);
+        benchmark::DoNotOptimize(regular);
+        benchmark::DoNotOptimize(b.data());
+    }
+}
+BENCHMARK(BandCholeskySolve)->Unit(benchmark::kMillisecond);
+
+void LapackDpbtrfDpbtrs(benchmark::State& state) {
+    const std::vector<double> ab0 = lapack::upperBand(spdBand());
+    const int n = kN, kd = kNb - 1, ldab = kNb, one = 1;
+    for (auto _ : state) {
+        state.PauseTiming();
+        std::vector<double> ab = ab0;
+        LoadVector b = rightHandSide();
+        state.ResumeTiming();
+        int info = 0;
+        dpbtrf_("U", &n, &kd, ab.data(), &ldab, &info);
+        dpbtrs_("U", &n, &kd, &one, ab.data(), &ldab, b.data(), &n, &info);
+        benchmark::DoNotOptimize(info);
+        benchmark::DoNotOptimize(b.data());
+    }
+}
+BENCHMARK(LapackDpbtrfDpbtrs)->Unit(benchmark::kMillisecond);
+
+}  // namespace

@@ -1,0 +1,30 @@
+// The heaviest slab calculation: a patch load on a simply supported slab, whose
+// double series runs its full 61 by 61 terms, through the module as a press.
+#include <benchmark/benchmark.h>
+
+#include <map>
+#include <string>
+
+#include "app/module.h"
+
+using namespace morve;
+
+namespace {
+
+void Form23PatchLoad(benchmark::State& state) {
+    ModuleSession session(*ModuleRegistry::find("Form23"), StartDefaults{});
+    FormState& s = session.state();
+    for (const auto& [box, text] : std::map<std::string, std::string>{
+             {"Text4", "4"}, {"Text5", "6"}, {"Text6", "12"}, {"Text12", "20"}, {"Text13", "1.7"},
+             {"Text14", "2.2"}, {"Text15", "0.8"}, {"Text16", "0.6"}})
+        s.setText(box, text);
+    s.setOption("Option3", true);
+    for (auto _ : state) {
+        ScriptedPrompter prompter;
+        Outcome o = session.press("Command1", prompter);
+        benchmark::DoNotOptimize(o);
+    }
+}
+BENCHMARK(Form23PatchLoad)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
