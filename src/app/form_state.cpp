@@ -92,6 +92,18 @@ const GridRows& FormState::grid(const std::string& name) const {
 
 GridRows& FormState::grid(const std::string& name) { return grids_[qualify(name)]; }
 
+void FormState::resizeGrid(const std::string& name, std::size_t rows) {
+    const ControlDecl* decl = declaration(name);
+    GridRows& grid = grids_[qualify(name)];
+    if (grid.empty()) grid.push_back(decl ? decl->grid.header : std::vector<std::string>{});
+    const std::size_t columns = grid.front().size();
+    grid.resize(rows + 1);
+    for (std::size_t r = 1; r < grid.size(); ++r) {
+        grid[r].resize(columns);
+        if (decl && decl->grid.firstColumnLocked && columns > 0) grid[r][0] = std::to_string(r);
+    }
+}
+
 const std::string& FormState::cell(const std::string& name, int row, int column) const {
     const GridRows& rows = grid(name);
     if (row < 0 || column < 0 || row >= static_cast<int>(rows.size())) return kEmpty;

@@ -36,6 +36,10 @@ public:
     // Grids: row 0 is the header.
     const GridRows& grid(const std::string& name) const;
     GridRows& grid(const std::string& name);
+    // The grid takes this many data rows, as when its count box grows or shrinks:
+    // the cells typed in the rows that stay are kept, new rows come empty (numbered
+    // when column 0 numbers the rows), and every row has a cell per column.
+    void resizeGrid(const std::string& name, std::size_t rows);
     const std::string& cell(const std::string& name, int row, int column) const;
     double cellNumber(const std::string& name, int row, int column) const;
 

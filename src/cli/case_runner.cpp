@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/catalogue.h"
+#include "cli/project_case.h"
 
 namespace morve {
 
@@ -123,6 +124,7 @@ CaseRun runCase(const json& c) {
     CaseRun run;
     run.session = std::make_unique<ModuleSession>(*module, readStartup(c));
     ModuleSession& session = *run.session;
+    if (c.contains("open")) openCaseProject(session, c.at("open"));
     if (c.contains("set")) applySet(session, c.at("set"));
     if (c.contains("grids")) applyGrids(session, c.at("grids"));
 

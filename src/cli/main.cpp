@@ -8,6 +8,7 @@
 
 #include "app/catalogue.h"
 #include "cli/case_runner.h"
+#include "cli/project_case.h"
 #include "cli/report_file.h"
 
 namespace {
@@ -15,6 +16,7 @@ namespace {
 const char* kUsage =
     "uso: morve-calc CASO.json\n"
     "     morve-calc --report SAIDA.pdf|SAIDA.txt [--key CHAVE] [--title TITULO] CASO.json\n"
+    "     morve-calc --save SAIDA.mor CASO.json\n"
     "     morve-calc --list\n";
 
 int listModules() {
@@ -32,7 +34,7 @@ int listModules() {
 }  // namespace
 
 int main(int argc, char** argv) {
-    std::string casePath, reportPath, key, title;
+    std::string casePath, reportPath, savePath, key, title;
     for (int i = 1; i < argc; ++i) {
         std::string a = argv[i];
         auto value = [&](const char* what) -> std::string {
@@ -48,6 +50,7 @@ int main(int argc, char** argv) {
             return 0;
         }
         if (a == "--report") reportPath = value("--report");
+        else if (a == "--save") savePath = value("--save");
         else if (a == "--key") key = value("--key");
         else if (a == "--title") title = value("--title");
         else if (!a.empty() && a[0] == '-') {
@@ -67,7 +70,10 @@ int main(int argc, char** argv) {
     std::stringstream text;
     text << in.rdbuf();
     try {
-        morve::CaseRun run = morve::runCase(morve::parseCase(text.str()));
+        nlohmann::json caseFile = morve::parseCase(text.str());
+        morve::resolveCaseProject(caseFile, casePath);
+        morve::CaseRun run = morve::runCase(caseFile);
+        if (!savePath.empty()) morve::saveCaseProject(*run.session, savePath);
         if (!reportPath.empty()) {
             std::string error = morve::writeReportFile(*run.session, reportPath, key, title);
             if (!error.empty()) {

@@ -43,13 +43,7 @@ Outcome ColumnModule::openLayers(FormState& state, Prompter& prompter) const {
     CheckSequence checks(prompter);
     checkLayerCount(checks, form_, n);
     if (checks.stopped()) return checks.outcome();
-    // The table takes n rows; what was typed in the rows that stay is kept.
-    GridRows& rows = state.grid(form_.grid());
-    rows.resize(static_cast<std::size_t>(n) + 1, std::vector<std::string>(2));
-    for (std::size_t r = 1; r < rows.size(); ++r) {
-        rows[r].resize(2);
-        rows[r][0] = std::to_string(r);
-    }
+    state.resizeGrid(form_.grid(), static_cast<std::size_t>(n));
     return Outcome::done()
         .then(EffectKind::HideScreen, form_.key)
         .then(EffectKind::ShowScreen, form_.layerScreen);

@@ -11,13 +11,14 @@
 #include "gui/data_paths.h"
 #include "gui/main_window.h"
 #include "gui/morve_app.h"
+#include "gui/project_dialogs.h"
 #include "gui/qt_texts.h"
 #include "gui/screenshots.h"
 
 namespace {
 
 const char* kUsage =
-    "uso: morve [--no-splash] [--screenshots PASTA] [--startup-time]\n";
+    "uso: morve [--no-splash] [--screenshots PASTA] [--startup-time] [ARQUIVO.mor]\n";
 
 }  // namespace
 
@@ -25,7 +26,7 @@ int main(int argc, char** argv) {
     QElapsedTimer clock;
     clock.start();
     morve::AppOptions options;
-    QString screenshots;
+    QString screenshots, project;
     bool startupTime = false;
     for (int i = 1; i < argc; ++i) {
         if (!std::strcmp(argv[i], "--no-splash")) options.splash = false;
@@ -34,7 +35,7 @@ int main(int argc, char** argv) {
         else if (!std::strcmp(argv[i], "--help") || !std::strcmp(argv[i], "-h")) {
             std::fputs(kUsage, stdout);
             return 0;
-        }
+        } else if (argv[i][0] != '-') project = QString::fromLocal8Bit(argv[i]);
     }
     // Without a display Qt aborts with a message about plugins; say plainly what is
     // missing instead, and where the calculations can still be run.
@@ -55,7 +56,7 @@ int main(int argc, char** argv) {
 
     if (startupTime) options.splash = false;
     morve::MorveApp app(options);
-    app.start();
+    if (project.isEmpty() || !morve::startWithProject(app, project)) app.start();
     if (startupTime) {
         // Time from the start of the process to the menu painted.
         QTimer::singleShot(0, [&] {

@@ -4,6 +4,7 @@
 
 #include "app/catalogue.h"
 #include "gui/gui_prompter.h"
+#include "gui/project_dialogs.h"
 #include "gui/screen_window.h"
 #include "gui/window_places.h"
 
@@ -189,8 +190,19 @@ void ModuleHost::toolbar(const std::string& screen, const std::string& key) {
         shell_.showModuleHelp(helpPage());
     } else if (key == "Sair") {
         shell_.askExit();
+    } else if (key == "Abrir" && session_.info().files) {
+        openProjectFromDialog(*this, w);
+    } else if (key == "Salvar" && session_.info().files) {
+        saveProjectFromDialog(*this, w);
     }
-    // "Abrir" and "Salvar": the project files come later.
+}
+
+void ModuleHost::storeWindows() {
+    for (auto& [name, w] : windows_) w->storeTo(session_.state());
+}
+
+void ModuleHost::refreshWindows() {
+    for (auto& [name, w] : windows_) refresh(w);
 }
 
 }  // namespace morve

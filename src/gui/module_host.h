@@ -52,6 +52,11 @@ public:
     Outcome press(const std::string& screen, const std::string& command);
     void toolbar(const std::string& screen, const std::string& key);
 
+    // The texts typed in the windows go to the state; after the state changed
+    // outside a command (a project file opened), the windows show it again.
+    void storeWindows();
+    void refreshWindows();
+
 private:
     ScreenWindow* ensureWindow(const std::string& screen);
     const ScreenDecl* declared(const std::string& screen) const;

@@ -127,6 +127,11 @@ void MorveApp::openModule(const std::string& key) {
     menu_->hide();
 }
 
+void MorveApp::startInModule(const std::string& key) {
+    locale_.force();
+    openModule(key);
+}
+
 void MorveApp::closeModule() {
     if (report_) {
         report_->onClosed = nullptr;

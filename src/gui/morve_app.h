@@ -36,6 +36,10 @@ public:
     void start();
     void showMenuAndDefaults();
     void openModule(const std::string& key);
+    // Straight into a module, as a project file opened from the file manager asks:
+    // the point is forced as at any start, and the defaults are the start dialog's
+    // first choices.
+    void startInModule(const std::string& key);
     void confirmDefaults(const StartDefaults& defaults);
     void helpMenu(const HelpMenuEntry& entry);
     void shutdown();

@@ -14,13 +14,13 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStyle>
-#include <QStyledItemDelegate>
 #include <QTableWidget>
 #include <QToolBar>
 #include <QVBoxLayout>
 
 #include <set>
 
+#include "gui/grid_editing.h"
 #include "gui/key_filter_guard.h"
 #include "gui/keyboard.h"
 #include "gui/picture_views.h"
@@ -30,21 +30,6 @@ namespace morve {
 namespace {
 
 QString q(const std::string& s) { return QString::fromStdString(s); }
-
-// The editor of a grid cell runs the grid's key filter.
-class FilteredCellDelegate : public QStyledItemDelegate {
-public:
-    FilteredCellDelegate(KeyFilter filter, QObject* parent) : QStyledItemDelegate(parent), filter_(filter) {}
-    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
-                          const QModelIndex& index) const override {
-        QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
-        if (editor) KeyFilterGuard::install(editor, filter_);
-        return editor;
-    }
-
-private:
-    KeyFilter filter_;
-};
 
 QIcon toolbarIcon(const std::string& key, QStyle* style) {
     if (key == "Novo") return style->standardIcon(QStyle::SP_FileIcon);
@@ -267,10 +252,9 @@ ScreenWindow::ControlParts ScreenWindow::makeControl(const ControlDecl& c, const
             auto* table = new QTableWidget(this);
             table->setColumnCount(static_cast<int>(c.grid.header.size()));
             table->verticalHeader()->setVisible(false);
-            table->setItemDelegate(new FilteredCellDelegate(c.filter, table));
             table->setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::DoubleClicked |
                                    QAbstractItemView::EditKeyPressed | QAbstractItemView::SelectedClicked);
-            KeyFilterGuard::install(table, c.filter);
+            makeSpreadsheet(table, c);
             table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
             table->setMinimumHeight(kGridMinimumHeight);
             parts.widget = table;

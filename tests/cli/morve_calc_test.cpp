@@ -2,39 +2,15 @@
 // unusable cases with exit status 2.
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdio>
-#include <filesystem>
-#include <fstream>
-#include <sys/wait.h>
-
 #include <nlohmann/json.hpp>
+
+#include "calc_run.h"
 
 namespace fs = std::filesystem;
 using nlohmann::json;
+using Result = CalcResult;
 
 namespace {
-
-struct Result {
-    int status;
-    std::string out;
-};
-
-Result runCalc(const std::string& args) {
-    std::string command = std::string(MORVE_CALC) + " " + args + " 2>&1";
-    FILE* pipe = popen(command.c_str(), "r");
-    std::string out;
-    std::array<char, 4096> buf{};
-    while (std::size_t n = fread(buf.data(), 1, buf.size(), pipe)) out.append(buf.data(), n);
-    int status = pclose(pipe);
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, out};
-}
-
-std::string writeCase(const std::string& name, const std::string& body) {
-    fs::path p = fs::temp_directory_path() / ("morve-calc-test-" + name + ".json");
-    std::ofstream(p) << body;
-    return p.string();
-}
 
 std::string example(const std::string& name) { return std::string(MORVE_EXAMPLES) + "/" + name; }
 

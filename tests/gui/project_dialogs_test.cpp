@@ -1,0 +1,93 @@
+// Project files on the desktop: "Salvar" through the dialog with the program's
+// labels and name filter, "Abrir" refusing another module's file without losing
+// what was typed, and `morve FILE.mor` going straight to the module with its data.
+#include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <fstream>
+
+#include "gui/gui_prompter.h"
+#include "gui/main_window.h"
+#include "gui/project_dialogs.h"
+#include "gui/screen_window.h"
+#include "../reports/file_module.h"
+#include "gui_test_support.h"
+
+using namespace morve;
+
+namespace {
+
+const RegisterModule<FileModule> registered;
+
+}  // namespace
+
+class ProjectDialogsTest : public QObject {
+    Q_OBJECT
+
+    static QLineEdit* title(MorveApp& app) {
+        return qobject_cast<QLineEdit*>(app.module()->mainWindow()->control("Text1"));
+    }
+    static FormState& state(MorveApp& app) { return app.module()->session().state(); }
+
+private slots:
+    void savedThroughTheDialogAndOpenedBack() {
+        ScriptedPrompter prompter;
+        setGuiPrompter(&prompter);
+        QTemporaryDir dir;
+        MorveApp app(quickOptions());
+        app.start();
+        app.openModule("Form90");
+        settle();
+        title(app)->setText("Viga \"V1\", térreo");
+        state(app).grid("Form90b.Grade1")[1][1] = "4.5";
+
+        QString labels;
+        QTimer::singleShot(0, [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            for (auto label : {QFileDialog::LookIn, QFileDialog::FileName, QFileDialog::Accept, QFileDialog::Reject})
+                labels += dialog->labelText(label) + "|";
+            dialog->setDirectory(dir.path());
+            auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
+            QTest::keyClicks(name, "viga.v2");
+            QTest::keyClick(name, Qt::Key_Return);
+        });
+        app.module()->mainWindow()->toolbarAction("Salvar")->trigger();
+        QCOMPARE(labels, QString("Salvar em:|Nome do arquivo:|&Salvar|Cancelar|"));
+        const std::string saved = QDir(dir.path()).filePath("viga_v2.mor").toStdString();
+        QVERIFY(QFileInfo::exists(QString::fromStdString(saved)));
+
+        // Another module's file: the message, and the texts typed since are kept.
+        const std::string other = QDir(dir.path()).filePath("outro.mor").toStdString();
+        std::ofstream(other) << "\"Form34\"\r\n\"x\"\r\n";
+        title(app)->setText("typed after saving");
+        QVERIFY(!openProjectInto(*app.module(), other));
+        QCOMPARE(prompter.messages().back().text,
+                 std::string("O arquivo selecionado não corresponde ao módulo atual. Escolha outro arquivo."));
+        QCOMPARE(title(app)->text(), QString("typed after saving"));
+
+        state(app).grid("Form90b.Grade1")[1][1] = "";
+        QVERIFY(openProjectInto(*app.module(), saved));
+        QCOMPARE(title(app)->text(), QString("Viga \"V1\", térreo"));
+        QCOMPARE(state(app).cell("Form90b.Grade1", 1, 1), std::string("4.5"));
+
+        // From the command line: the module of the file, with its data.
+        app.returnToMenu();
+        settle();
+        QVERIFY(startWithProject(app, QString::fromStdString(saved)));
+        settle();
+        QCOMPARE(app.module()->session().info().key, std::string("Form90"));
+        QCOMPARE(title(app)->text(), QString("Viga \"V1\", térreo"));
+        QVERIFY(!app.menu()->isVisible());
+        app.shutdown();
+        settle();
+        setGuiPrompter(nullptr);
+    }
+};
+
+QTEST_MAIN(ProjectDialogsTest)
+#include "project_dialogs_test.moc"
