@@ -147,17 +147,6 @@ TEST(Form19Design, WholeSectionInTensionByTheLeverRule) {
     EXPECT_TRUE(r.tieCase);
 }
 
-TEST(Form19Design, TheGuardStopsTheSearchWithItsOwnMessage) {
-    SymmetricTie r = designSymmetricTie(section20x36(60, 100), 0);
-    EXPECT_EQ(r.stop, TieStop::NotConverged);
-    EXPECT_EQ(tieStopMessage(TieStop::NotConverged),
-              "A busca da linha neutra não convergiu. Revise os dados da seção e dos esforços.");
-    // A generous guard leaves a converged result as it is.
-    SymmetricTie a = designSymmetricTie(section20x36(60, 100), 50);
-    SymmetricTie b = designSymmetricTie(section20x36(60, 100));
-    EXPECT_EQ(a.omega, b.omega);
-}
-
 TEST(TieChecks, StopInOrderWithTheirTextAndFocus) {
     struct Check {
         std::map<std::string, std::string> set;  // "Mk" and "Nk" stand for their boxes
