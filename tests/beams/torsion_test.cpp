@@ -171,8 +171,8 @@ const CheckCase kChecks[] = {
     // fck 90, NBR-6118, Beta 0.75: xlim = 0.15 < 2.6/12.6; Mk 200 needs compression steel.
     {"domain 2", with({{"Text1", "90"}, {"List2", "NBR-6118"}, {"List3", "0.75"}, {"Text10", "200"}}), {}, msg::kDomain2,
      K::Warning, "Form7.Text4"},
-    // b 25, h 60, d' 13: he = 9.375 < 26 and b - 2d' = -1 leaves no wall.
-    {"no wall", with({{"Text8", "60"}, {"Text9", "13"}}), {}, "A distância d' tem que ser menor que b/2.", K::Warning, "Form6.Text9"},
+    // b 25, h 60, d' 12.5: he = 9.375 < 25 and b - 2d' = 0 leaves a wall of nothing.
+    {"no wall", with({{"Text8", "60"}, {"Text9", "12.5"}}), {}, "A distância d' tem que ser diferente de b/2.", K::Warning, "Form6.Text9"},
     // Tk 40: tautd = 10 x 5600/(2 x 544 x 7.69) = 6.69 MPa > 0.25 x 0.92 x 14.29 = 3.29.
     {"strut", with({{"Text12", "40"}}), {}, msg::kCrushedStrut, K::Warning, ""},
     // 15 x 30, d' 3, Mk 90: mu = 12600/(15 x 729 x 1.214) = 0.949; As 12.4 + As' 8.3 = 4.6%.
