@@ -159,7 +159,9 @@ void ModuleHost::companionClosed(const std::string& screen) {
     for (const auto& [name, w] : windows_) {
         if (!w->isVisible()) continue;
         anyShown = true;
-        if (w != shell_.reportCaller()) w->setEnabled(true);
+        if (w == shell_.reportCaller()) continue;
+        w->setEnabled(true);
+        back.then(EffectKind::EnableScreen, name);
     }
     if (!anyShown) back.then(EffectKind::ShowScreen, session_.info().key);
     session_.apply(back);
