@@ -146,7 +146,10 @@ void ModuleHost::applyScreenEffects(const Outcome& outcome, ScreenWindow* caller
     // window comes back rather than leaving the user before an empty backdrop.
     bool anyShown = false;
     for (const auto& [name, w] : windows_) anyShown = anyShown || w->isVisible();
-    if (!anyShown && !windows_.empty()) showScreen(session_.info().key);
+    if (!anyShown && !windows_.empty()) {
+        session_.apply(Outcome::done().then(EffectKind::ShowScreen, session_.info().key));
+        showScreen(session_.info().key);
+    }
 }
 
 void ModuleHost::companionClosed(const std::string& screen) {

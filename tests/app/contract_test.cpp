@@ -135,3 +135,17 @@ TEST(FormState, QualifiesNamesAndKeepsGroupsListsAndGrids) {
     EXPECT_EQ(s.cell("FormAb.Grade1", 9, 9), "");  // outside the grid reads as blank
     EXPECT_EQ(s.cellNumber("FormAb.Grade1", 1, 0), 1);
 }
+
+TEST(ModuleSession, RefusesWhatTheScreensDoNotOffer) {
+    ModuleSession session(*ModuleRegistry::find("Form9"), StartDefaults{});
+    ScriptedPrompter quiet;
+    session.state().setText("Text6", "2");
+    EXPECT_EQ(session.press("Form9b.Command2", quiet).refused, "hidden");  // the table is not up
+    ASSERT_TRUE(session.press("Command3", quiet).completed);                 // it is now, over Form9
+    const Outcome behind = session.press("Command4", quiet);
+    EXPECT_EQ(behind.refused, "disabled");
+    EXPECT_TRUE(behind.effects.empty());
+    EXPECT_TRUE(quiet.messages().empty());
+    ASSERT_TRUE(session.press("Form9b.Command2", quiet).completed);
+    EXPECT_EQ(session.refusal("Command4"), "");
+}
