@@ -38,12 +38,7 @@ TEST(Form6Load, BarSteelAndModulusOfTheStartDialog) {
     const FormState& s = session.state();
     EXPECT_EQ(s.text("Text2"), "600");
     EXPECT_EQ(s.text("Text3"), "210");
-    EXPECT_EQ(s.text("List1"), "");
-    EXPECT_EQ(s.text("List2"), "CEB/90");
-    EXPECT_EQ(s.text("List3"), "1.00");
-    const ModuleInfo info = session.info();
-    EXPECT_EQ(info.unloads, (std::vector<std::string>{"FormAjuda", "Form6b"}));
-    EXPECT_EQ(info.printKey, "");
+    EXPECT_EQ(session.info().printKey, "");  // Form6b prints, not the toolbar
 }
 
 struct DesignCase {
