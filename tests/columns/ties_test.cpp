@@ -3,6 +3,7 @@
 // of the strain plane it found, the checks of both in order, and their reports.
 #include <cmath>
 
+#include "../module_run.h"
 #include "../stop_expectations.h"
 #include "basis/messages.h"
 #include "column_case.h"
@@ -15,29 +16,15 @@ using morve::testing::reportLines;
 
 namespace {
 
-struct Run {
-    std::unique_ptr<ModuleSession> session;
-    ScriptedPrompter prompter;
-    Outcome outcome;
-    const std::string& text(const std::string& name) const { return session->state().text(name); }
-};
-
 // b 20, h 40, d 36 of the window's defaults, d' 4, fck 20, CA-50, Es 200, and the
 // forces by name: Form18 has Mk in Text8 and Nk in Text9, Form19 the other way.
-std::unique_ptr<Run> calculate(const std::string& key, const std::string& mk, const std::string& nk,
-                               const std::map<std::string, std::string>& set = {},
-                               std::vector<std::string> answers = {}) {
-    auto run = std::make_unique<Run>();
-    run->session = std::make_unique<ModuleSession>(*ModuleRegistry::find(key), StartDefaults{});
-    FormState& s = run->session->state();
+std::unique_ptr<morve::testing::Run> calculate(const std::string& key, const std::string& mk, const std::string& nk,
+                                        const std::map<std::string, std::string>& set = {},
+                                        std::vector<std::string> answers = {}) {
     const bool f18 = key == "Form18";
-    s.setText("Text7", "4");
-    s.setText(f18 ? "Text8" : "Text9", mk);
-    s.setText(f18 ? "Text9" : "Text8", nk);
-    for (const auto& [name, value] : set) s.setText(name, value);
-    run->prompter = ScriptedPrompter(std::move(answers));
-    run->outcome = run->session->press("Command6", run->prompter);
-    return run;
+    const auto boxes =
+        morve::testing::with({{"Text7", "4"}, {f18 ? "Text8" : "Text9", mk}, {f18 ? "Text9" : "Text8", nk}}, set);
+    return morve::testing::pressWith(key, "Command6", boxes, std::move(answers));
 }
 
 // fck 20, gamma 1.4 and 1.15: sigma_cd = 0.85 x 2 / 1.4, fyd = 50 / 1.15 (kN/cm2).
