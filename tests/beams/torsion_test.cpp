@@ -144,14 +144,8 @@ TEST(Form6Screens, SuccessShowsTheResultsAndTheirButtonsActOnThem) {
 using K = MessageKind;
 const CheckCase kChecks[] = {
     {"low fck", with({{"Text1", "19"}, {"Text2", "0"}}), {}, msg::kLowFck, K::Warning, ""},
-    {"high fck", with({{"Text1", "91"}}), {}, msg::kHighFck, K::Warning, "Form6.Text1"},
-    {"fyk", with({{"Text2", "0"}, {"Text3", "0"}}), {}, msg::kPositiveFyk, K::Warning, "Form6.Text2"},
     {"steel class before Es", with({{"Text2", "550"}, {"Text3", "0"}}), {"yes"}, msg::kSteelClass, K::YesNo, "Form6.Text2"},
-    {"Es", with({{"Text3", "0"}, {"Text4", "0"}}), {}, msg::kPositiveEs, K::Warning, "Form6.Text3"},
-    {"code Es", with({{"Text3", "205"}, {"Text4", "0"}}), {"yes"}, msg::kCodeEs, K::YesNo, "Form6.Text3"},
     {"Gamac before b", with({{"Text4", "0.9"}, {"Text7", "0"}}), {}, msg::kPartialCoefficient, K::Warning, "Form6.Text4"},
-    {"Gamas", with({{"Text5", "0.9"}, {"Text6", "0.9"}}), {}, msg::kPartialCoefficient, K::Warning, "Form6.Text5"},
-    {"Gamaf", with({{"Text6", "0.9"}}), {}, msg::kPartialCoefficient, K::Warning, "Form6.Text6"},
     {"b", with({{"Text7", "0"}, {"Text8", "0"}}), {}, "Forneça um valor positivo para b.", K::Warning, "Form6.Text7"},
     {"narrow", with({{"Text7", "10"}, {"Text8", "0"}}), {"yes"}, msg::kBeamWidth, K::YesNo, "Form6.Text7"},
     {"h", with({{"Text8", "0"}}), {}, msg::kPositiveH, K::Warning, "Form6.Text8"},

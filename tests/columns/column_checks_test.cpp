@@ -59,8 +59,6 @@ const std::vector<Stop>& stops() {
         {"Form12", {{"Text8", "-1"}}, "O esforço normal Nk não pode ser negativo.", "Text8"},
         {"Form12", {{"Text9", "-1"}}, "O momento fletor Mk não pode ser negativo.", "Text9"},
         {"Form12", {{"Text16", "0.9"}}, kCoefficient, "Text16"},
-        {"Form12", {{"Text14", "0.9"}}, kCoefficient, "Text14"},
-        {"Form12", {{"Text15", "0.9"}}, kCoefficient, "Text15"},
         {"Form12", {{"Text4", "13"}}, "A NBR-6118 não admite pilares com dimensão menor que 14cm. VOCÊ QUER CORRIGIR A DIMENSÃO?", "Text4", {"yes"}},
         {"Form12", {{"Text4", "18"}}, kSlender + "Gamaf?", "Text15", {"yes"}},
         {"Form12", {{"Text4", "14"}, {"Text5", "14"}, {"Text8", "1500"}}, "A taxa de armadura é superior a 8%. Aumente as dimensões da seção de concreto.", "", {"no", "no"}},
