@@ -1,12 +1,13 @@
 # make run   installs what is missing, builds and starts MORVE
 # make test  the same, then runs every test
+# make sanitize  the tests built and run under AddressSanitizer and UBSan
 BUILD   ?= build
 CMAKE_FLAGS ?= -DCMAKE_BUILD_TYPE=Release
 PACKAGES := g++ cmake ninja-build qt6-base-dev qt6-charts-dev qt6-svg-dev libqt6opengl6-dev \
             libgif-dev nlohmann-json3-dev libgtest-dev libbenchmark-dev liblapack-dev xvfb xauth poppler-utils \
             qt6-translations-l10n
 
-.PHONY: all deps configure build run test bench screenshots install clean
+.PHONY: all deps configure build run test sanitize bench screenshots install clean
 
 all: build
 
@@ -33,6 +34,16 @@ run: build
 
 test: build
 	@cd $(BUILD) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j2
+
+SANITIZE_BUILD ?= build-sanitize
+SANITIZE_FLAGS ?=
+sanitize: deps
+	@[ -f $(SANITIZE_BUILD)/build.ninja ] || cmake -S . -B $(SANITIZE_BUILD) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+	  -DCMAKE_CXX_FLAGS="-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer" \
+	  -DCMAKE_EXE_LINKER_FLAGS="-fsanitize=address,undefined" $(SANITIZE_FLAGS) >/dev/null
+	@cmake --build $(SANITIZE_BUILD) -j2
+	@cd $(SANITIZE_BUILD) && QT_QPA_PLATFORM=offscreen ASAN_OPTIONS=detect_leaks=0 \
+	  UBSAN_OPTIONS=print_stacktrace=1 ctest --output-on-failure -j2
 
 bench: configure
 	@cmake --build $(BUILD) -j2 --target morve_bench && $(BUILD)/morve_bench

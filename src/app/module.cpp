@@ -33,6 +33,14 @@ std::map<std::string, std::unique_ptr<Module>>& registry() {
     return modules;
 }
 
+bool contains(const std::vector<std::string>& names, const std::string& name) {
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+void erase(std::vector<std::string>& names, const std::string& name) {
+    names.erase(std::remove(names.begin(), names.end(), name), names.end());
+}
+
 }  // namespace
 
 void ModuleRegistry::add(std::unique_ptr<Module> module) {
@@ -60,36 +68,54 @@ ModuleSession::ModuleSession(const Module& module, const StartDefaults& defaults
 }
 
 Outcome ModuleSession::press(const std::string& command, Prompter& prompter) {
+    if (std::string why = refusal(command); !why.empty()) {
+        Outcome refused = Outcome::stop();
+        refused.refused = std::move(why);
+        return refused;
+    }
     Outcome outcome = module_->press(command, state_, prompter);
     if (!outcome.focus.empty()) outcome.focus = state_.qualify(outcome.focus);
     apply(outcome);
     return outcome;
 }
 
+std::string ModuleSession::refusal(const std::string& command) const {
+    const std::string name = state_.qualify(command);
+    const std::string screen = name.substr(0, name.find('.'));
+    if (!screenShown(screen) || !state_.visible(name)) return "hidden";
+    if (contains(disabledScreens_, screen) || !state_.enabled(name)) return "disabled";
+    return "";
+}
+
 void ModuleSession::apply(const Outcome& outcome) {
+    // A screen disabled behind a report is given back by the report window when
+    // it closes, outside any command, so it is not kept as disabled here.
+    const bool report = std::any_of(outcome.effects.begin(), outcome.effects.end(),
+                                    [](const ScreenEffect& e) { return e.kind == EffectKind::StartReport; });
     for (const auto& e : outcome.effects) {
         switch (e.kind) {
             case EffectKind::ShowScreen:
                 if (!screenShown(e.target)) shown_.push_back(e.target);
                 break;
-            case EffectKind::HideScreen:
+            case EffectKind::HideScreen: erase(shown_, e.target); break;
             case EffectKind::UnloadScreen:
-                shown_.erase(std::remove(shown_.begin(), shown_.end(), e.target), shown_.end());
+                erase(shown_, e.target);
+                erase(disabledScreens_, e.target);
                 break;
             case EffectKind::EnableControl: state_.setEnabled(e.target, true); break;
             case EffectKind::DisableControl: state_.setEnabled(e.target, false); break;
             case EffectKind::ShowControl: state_.setVisible(e.target, true); break;
             case EffectKind::HideControl: state_.setVisible(e.target, false); break;
-            case EffectKind::EnableScreen:
+            case EffectKind::EnableScreen: erase(disabledScreens_, e.target); break;
             case EffectKind::DisableScreen:
-            case EffectKind::StartReport: break;  // the front end's windows
+                if (!report && !contains(disabledScreens_, e.target)) disabledScreens_.push_back(e.target);
+                break;
+            case EffectKind::StartReport: break;  // the front end's report window
         }
     }
 }
 
-bool ModuleSession::screenShown(const std::string& screen) const {
-    return std::find(shown_.begin(), shown_.end(), screen) != shown_.end();
-}
+bool ModuleSession::screenShown(const std::string& screen) const { return contains(shown_, screen); }
 
 const char* effectKindName(EffectKind kind) {
     switch (kind) {

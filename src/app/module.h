@@ -76,7 +76,12 @@ public:
     FormState& state() { return state_; }
     const FormState& state() const { return state_; }
 
+    // A command runs only where the desktop lets the user reach it: a button that
+    // is disabled, or hidden, or on a screen not shown or disabled, is refused and
+    // nothing changes.
     Outcome press(const std::string& command, Prompter& prompter);
+    // "disabled", "hidden", or empty when the command can be pressed.
+    std::string refusal(const std::string& command) const;
     // The effects of a command done outside a module (a screen closed by its
     // window's own close, say) are kept the same way.
     void apply(const Outcome& outcome);
@@ -87,6 +92,7 @@ private:
     ModuleInfo info_;
     FormState state_;
     std::vector<std::string> shown_;
+    std::vector<std::string> disabledScreens_;
 };
 
 }  // namespace morve

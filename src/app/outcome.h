@@ -29,9 +29,12 @@ struct Outcome {
     bool completed = false;
     std::string focus;  // qualified control name, empty when the focus stays
     std::vector<ScreenEffect> effects;
+    // Why a press did not run at all: "disabled" or "hidden", as a button that the
+    // desktop would not let the user reach; empty when the command ran.
+    std::string refused;
 
-    static Outcome done() { return Outcome{true, {}, {}}; }
-    static Outcome stop(std::string focus = {}) { return Outcome{false, std::move(focus), {}}; }
+    static Outcome done() { return Outcome{true, {}, {}, {}}; }
+    static Outcome stop(std::string focus = {}) { return Outcome{false, std::move(focus), {}, {}}; }
     Outcome& then(EffectKind kind, std::string target) {
         effects.push_back({kind, std::move(target)});
         return *this;

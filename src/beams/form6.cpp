@@ -165,9 +165,10 @@ Outcome Form6::calculate(FormState& s, Prompter& prompter) const {
     const double tauwd2 = 0.27 * alphav * fcdMpa;
 
     const HollowSection wall = torsionHollowSection(b, h, dPrime);
-    // With the corner bars at b / 2 or deeper there is no wall left to carry the
-    // torque; the formulas would divide by nothing.
-    checks.warnIf(wall.te <= 0 || wall.ae <= 0, "A distância d' tem que ser menor que b/2.", "Text9");
+    // Past b / 2 the wall and its area turn negative together and the results stay
+    // defined; only at b / 2 itself the wall is nothing and the formulas would
+    // divide by zero.
+    checks.warnIf(wall.te == 0 || wall.ae == 0, "A distância d' tem que ser diferente de b/2.", "Text9");
     if (checks.stopped()) return checks.outcome();
     const double tautd = 10 * td / (2 * wall.ae * wall.te);
     const double tautd2 = 0.25 * alphav * fcdMpa;

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <utility>
 
+#include "basis/false_position.h"
 #include "basis/materials.h"
 
 namespace morve {
@@ -70,8 +71,7 @@ struct Balance {
 
 }  // namespace
 
-UltimateMoment layeredUltimateMoment(const LayeredSection& section, const SteelLayers& layers,
-                                     long roundLimit) {
+UltimateMoment layeredUltimateMoment(const LayeredSection& section, const SteelLayers& layers) {
     UltimateMoment out;
     Balance f(section, layers);
     double x1 = 0, x2 = f.d1;
@@ -80,25 +80,14 @@ UltimateMoment layeredUltimateMoment(const LayeredSection& section, const SteelL
         out.status = NeutralAxisStatus::NotBracketed;
         return out;
     }
-    double x3 = x1, f3 = 1;
-    while (std::fabs(f3) > 0.0001) {
-        if (out.rounds >= roundLimit || f2 == f1) {
-            out.status = NeutralAxisStatus::NotConverged;
-            return out;
-        }
-        ++out.rounds;
-        x3 = (f2 * x1 - f1 * x2) / (f2 - f1);
-        f3 = f(x3);
-        if (f3 * f1 <= 0) {
-            x2 = x3;
-            f2 = f3;
-        } else {
-            x1 = x3;
-            f1 = f3;
-        }
+    const Root root = falsePosition(f, x1, f1, x2, f2, {.tolerance = 0.0001, .zeroMovesUpper = true});
+    out.rounds = root.rounds;
+    if (!root.converged()) {
+        out.status = NeutralAxisStatus::NotConverged;
+        return out;
     }
-    out.x = x3;
-    out.moment = f.moment(x3);
+    out.x = root.x;
+    out.moment = f.moment(root.x);
     return out;
 }
 

@@ -26,7 +26,7 @@ struct LayeredSection {
 enum class NeutralAxisStatus {
     Found,
     NotBracketed,  // the balance has one sign all over the depth of the deepest layer
-    NotConverged,  // the guard on the rounds was reached
+    NotConverged,  // the search stalled (see falsePosition)
 };
 
 struct UltimateMoment {
@@ -36,12 +36,7 @@ struct UltimateMoment {
     long rounds = 0;
 };
 
-// The rounds allowed to the false position; far beyond what any section needs,
-// it only keeps a pathological case from holding the screen for ever.
-inline constexpr long kNeutralAxisRoundLimit = 100000;
-
 // Layers sorted deepest first.
-UltimateMoment layeredUltimateMoment(const LayeredSection& section, const SteelLayers& layers,
-                                     long roundLimit = kNeutralAxisRoundLimit);
+UltimateMoment layeredUltimateMoment(const LayeredSection& section, const SteelLayers& layers);
 
 }  // namespace morve

@@ -27,7 +27,8 @@ Arrangement arrangeLongitudinal(double b, double h, const HollowSection& wall, d
         a.top = asPrime + asl / 2;
         return a;
     }
-    const double perCm = asl / wall.ue;
+    // A perimeter of nothing (h + b = 4 d') holds no torsion steel to share out.
+    const double perCm = wall.ue == 0 ? 0 : asl / wall.ue;
     a.bottom = as + (b - wall.te) * perCm;
     a.top = asPrime + (b - wall.te) * perCm;
     a.side = (h - wall.te) * perCm;

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "app/numbers.h"
+#include "app/texts.h"
 #include "basis/checks.h"
 #include "basis/messages.h"
 #include "basis/start_values.h"
@@ -129,9 +130,9 @@ Outcome LayeredVerification::openGrid(FormState& state, Prompter& prompter) cons
 }
 
 Outcome LayeredVerification::closeGrid(FormState& state) const {
-    for (auto& row : state.grid(grid()))
-        for (auto& cell : row)
-            if (cell.size() > kCellWidth) cell.resize(kCellWidth);
+    GridRows& rows = state.grid(grid());
+    for (std::size_t r = 1; r < rows.size(); ++r)
+        for (auto& cell : rows[r]) cell = cutText(cell, kCellWidth);
     return Outcome::done()
         .then(EffectKind::EnableScreen, setup_.key)
         .then(EffectKind::HideScreen, setup_.companion);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/catalogue.h"
+#include "app/texts.h"
 #include "cli/project_case.h"
 
 namespace morve {
@@ -10,6 +11,24 @@ namespace morve {
 using nlohmann::json;
 
 namespace {
+
+// Deeper than any case needs, and shallow enough that nothing built from a case
+// (its values, our messages quoting them) can run out of stack.
+constexpr int kMaxNesting = 32;
+
+// A name or value of the case quoted in a message, cut to a readable length.
+std::string excerpt(const std::string& text) { return quoteText(text); }
+std::string excerpt(const json& value) {
+    return quoteText(value.dump(-1, ' ', false, json::error_handler_t::replace));
+}
+
+// The JSON parser's own words, without its "[json.exception...]" tag.
+std::string parserWords(const json::exception& e) {
+    std::string what = e.what();
+    if (auto tag = what.find("] "); what.rfind("[json.exception.", 0) == 0 && tag != std::string::npos)
+        what.erase(0, tag + 2);
+    return quoteText(what, 120);
+}
 
 StartDefaults readStartup(const json& c) {
     StartDefaults d;
@@ -21,10 +40,10 @@ StartDefaults readStartup(const json& c) {
     for (const auto& [key, value] : s.items()) {
         auto it = std::find_if(std::begin(fields), std::end(fields),
                                [&](const auto& f) { return key == f.first; });
-        if (it == std::end(fields)) throw CaseError("opção de início desconhecida: " + key);
+        if (it == std::end(fields)) throw CaseError("opção de início desconhecida: " + excerpt(key));
         std::string text = value.is_string() ? value.get<std::string>() : value.dump();
         if (!d.select(it->second, text))
-            throw CaseError("valor de início inexistente para " + key + ": " + text);
+            throw CaseError("valor de início inexistente para " + key + ": " + excerpt(text));
     }
     return d;
 }
@@ -33,7 +52,7 @@ std::string textOf(const json& v) {
     if (v.is_string()) return v.get<std::string>();
     if (v.is_number() || v.is_boolean()) return v.dump();
     if (v.is_null()) return "";
-    throw CaseError("valor inválido: " + v.dump());
+    throw CaseError("valor inválido: " + excerpt(v));
 }
 
 void applySet(ModuleSession& session, const json& set) {
@@ -41,13 +60,13 @@ void applySet(ModuleSession& session, const json& set) {
     FormState& state = session.state();
     for (const auto& [name, value] : set.items()) {
         const ControlDecl* decl = state.declaration(name);
-        if (!decl) throw CaseError("controle desconhecido: " + name);
+        if (!decl) throw CaseError("controle desconhecido: " + excerpt(name));
         switch (decl->kind) {
             case ControlKind::List: {
                 std::string item = textOf(value);
                 if (!item.empty() &&
                     std::find(decl->items.begin(), decl->items.end(), item) == decl->items.end())
-                    throw CaseError("item inexistente na lista " + name + ": " + item);
+                    throw CaseError("item inexistente na lista " + name + ": " + excerpt(item));
                 state.setText(name, item);
                 break;
             }
@@ -57,8 +76,9 @@ void applySet(ModuleSession& session, const json& set) {
                 state.setOption(name, on);
                 break;
             }
-            case ControlKind::TextBox:
-            case ControlKind::ResultBox: state.setText(name, textOf(value)); break;
+            case ControlKind::TextBox: state.setText(name, textOf(value)); break;
+            case ControlKind::ResultBox:
+                throw CaseError("o controle " + name + " mostra um resultado e não recebe texto");
             default: throw CaseError("o controle não recebe texto: " + name);
         }
     }
@@ -69,7 +89,7 @@ void applyGrids(ModuleSession& session, const json& grids) {
     FormState& state = session.state();
     for (const auto& [name, rows] : grids.items()) {
         const ControlDecl* decl = state.declaration(name);
-        if (!decl || decl->kind != ControlKind::Grid) throw CaseError("grade desconhecida: " + name);
+        if (!decl || decl->kind != ControlKind::Grid) throw CaseError("grade desconhecida: " + excerpt(name));
         if (!rows.is_array()) throw CaseError("as linhas da grade " + name + " devem ser uma lista");
         GridRows& grid = state.grid(name);
         grid.resize(1);
@@ -103,10 +123,20 @@ json gridsOf(const FormState& state) {
 }  // namespace
 
 json parseCase(const std::string& text) {
+    const json::parser_callback_t nesting = [](int depth, json::parse_event_t event, json&) {
+        if ((event == json::parse_event_t::object_start || event == json::parse_event_t::array_start) &&
+            depth >= kMaxNesting)
+            throw CaseError("o arquivo do caso tem listas ou objetos aninhados demais (mais de " +
+                            std::to_string(kMaxNesting) + " níveis)");
+        return true;
+    };
     try {
-        return json::parse(text);
-    } catch (const json::parse_error& e) {
-        throw CaseError(std::string("o arquivo do caso não é JSON válido: ") + e.what());
+        return json::parse(text, nesting);
+    } catch (const json::out_of_range& e) {
+        // A number beyond the range of a double, such as 1e999.
+        throw CaseError("o arquivo do caso tem um número fora do alcance: " + parserWords(e));
+    } catch (const json::exception& e) {
+        throw CaseError("o arquivo do caso não é JSON válido: " + parserWords(e));
     }
 }
 
@@ -136,7 +166,7 @@ CaseRun runCase(const json& c) {
         for (const auto& name : p) presses.push_back(textOf(name));
     }
     for (const auto& name : presses)
-        if (!isCommand(session.state(), name)) throw CaseError("botão desconhecido: " + name);
+        if (!isCommand(session.state(), name)) throw CaseError("botão desconhecido: " + excerpt(name));
 
     std::vector<std::string> answers;
     if (c.contains("answers")) {
@@ -158,11 +188,13 @@ CaseRun runCase(const json& c) {
         json effects = json::array();
         for (const auto& e : o.effects)
             effects.push_back({{"kind", effectKindName(e.kind)}, {"target", e.target}});
-        steps.push_back({{"press", name},
-                         {"completed", o.completed},
-                         {"focus", o.focus.empty() ? json(nullptr) : json(o.focus)},
-                         {"messages", messages},
-                         {"effects", effects}});
+        json step = {{"press", name},
+                     {"completed", o.completed},
+                     {"focus", o.focus.empty() ? json(nullptr) : json(o.focus)},
+                     {"messages", messages},
+                     {"effects", effects}};
+        if (!o.refused.empty()) step["refused"] = o.refused;
+        steps.push_back(std::move(step));
     }
     run.outcome = {{"module", key},
                    {"steps", steps},

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "app/catalogue.h"
+#include "app/texts.h"
 #include "cli/case_runner.h"
 #include "cli/project_case.h"
 #include "cli/report_file.h"
@@ -81,10 +82,18 @@ int main(int argc, char** argv) {
                 return 2;
             }
         } else {
-            std::cout << run.outcome.dump(2) << "\n";
+            std::cout << run.outcome.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << "\n";
         }
     } catch (const morve::CaseError& e) {
         std::cerr << "morve-calc: " << casePath << ": " << e.what() << "\n";
+        return 2;
+    } catch (const std::exception& e) {
+        // Whatever else goes wrong, the caller gets a message and a status, not an abort.
+        std::cerr << "morve-calc: " << casePath << ": erro inesperado: " << morve::quoteText(e.what(), 200)
+                  << "\n";
+        return 2;
+    } catch (...) {
+        std::cerr << "morve-calc: " << casePath << ": erro inesperado\n";
         return 2;
     }
     return 0;

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "app/texts.h"
 #include "basis/start_values.h"
 #include "columns/column_form.h"
 #include "columns/column_section.h"
@@ -53,8 +54,7 @@ Outcome ColumnModule::closeLayers(FormState& state) const {
     // A count of bars takes at most three digits.
     GridRows& rows = state.grid(form_.grid());
     for (std::size_t r = 1; r < rows.size(); ++r)
-        for (auto& cell : rows[r])
-            if (cell.size() > 2) cell = cell.substr(0, 3);
+        for (auto& cell : rows[r]) cell = cutText(cell, 3);
     return Outcome::done()
         .then(EffectKind::HideScreen, form_.layerScreen)
         .then(EffectKind::ShowScreen, form_.key);

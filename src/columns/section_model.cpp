@@ -123,9 +123,8 @@ std::string searchStopMessage(SearchStop stop) {
         case SearchStop::NoBracket:
             return "A busca da linha neutra não encontrou solução para estes dados. Revise os dados "
                    "da seção e dos esforços.";
-        case SearchStop::TooManyRounds:
-            return "A busca da linha neutra não convergiu após 10000 iterações. Revise os dados da "
-                   "seção e dos esforços.";
+        case SearchStop::Stalled:
+            return "A busca da linha neutra não convergiu. Revise os dados da seção e dos esforços.";
     }
     return "";
 }

@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "basis/false_position.h"
 #include "basis/materials.h"
 
 namespace morve {
@@ -85,19 +86,18 @@ double SectionEquation(const SectionForces& f, double nu, double mu);
 // f = 0 of the verification: the force equation with omega known.
 double VerificationEquation(const SectionForces& f, double nu, double omega, int totalBars, double fyd);
 
-enum class SearchStop { Converged, NoBracket, TooManyRounds };
+enum class SearchStop { Converged, NoBracket, Stalled };
 
 struct NeutralAxis {
     SearchStop stop = SearchStop::Converged;
     SectionForces forces;  // of the last evaluation
-    int rounds = 0;
+    long rounds = 0;
     bool converged() const { return stop == SearchStop::Converged; }
 };
 
-// The guard of the search: the rules give it no limit, so these are generous enough
-// never to cut a search that converges, and only stop one that would run forever.
-inline constexpr int kMaxFalsePositionRounds = 10000;
-inline constexpr int kMaxBracketWidenings = 25;  // xi up to 1000 x 10^25
+// Far out the equation no longer changes (the section is squashed whole), so a
+// bracket not found by xi = 1000 x 10^25 is never found.
+inline constexpr int kMaxBracketWidenings = 25;
 
 // The message of a search stopped by its guard.
 std::string searchStopMessage(SearchStop stop);
@@ -122,24 +122,14 @@ NeutralAxis SolveNeutralAxis(const SectionModel& model, Equation&& equation) {
         out.forces = model.at(xi2);
         f2 = equation(out.forces);
     }
-    double f = 1.0;
-    while (!(std::abs(f) <= 0.001)) {
-        if (out.rounds == kMaxFalsePositionRounds) {
-            out.stop = SearchStop::TooManyRounds;
-            return out;
-        }
-        ++out.rounds;
-        const double xi = (f2 * xi1 - f1 * xi2) / (f2 - f1);
-        out.forces = model.at(xi);
-        f = equation(out.forces);
-        if (f * f1 < 0) {
-            xi2 = xi;
-            f2 = f;
-        } else {
-            xi1 = xi;
-            f1 = f;
-        }
-    }
+    const Root root = falsePosition(
+        [&](double xi) {
+            out.forces = model.at(xi);
+            return equation(out.forces);
+        },
+        xi1, f1, xi2, f2, FalsePositionRule{});
+    out.rounds = root.rounds;
+    if (!root.converged()) out.stop = SearchStop::Stalled;
     return out;
 }
 

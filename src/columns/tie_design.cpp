@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "basis/false_position.h"
+
 namespace morve {
 
 double compressedSteelStrain(double xiLim, double delta, double ecu) {
@@ -78,7 +80,7 @@ double symmetricResidual(const TieSection& t, double xi, double& omega) {
 
 }  // namespace
 
-SymmetricTie designSymmetricTie(const TieSection& t, int maxRounds) {
+SymmetricTie designSymmetricTie(const TieSection& t) {
     SymmetricTie r;
     double omega = 0;
     const double f0 = symmetricResidual(t, 0, omega);
@@ -112,20 +114,13 @@ SymmetricTie designSymmetricTie(const TieSection& t, int maxRounds) {
     }
     // False position as the section solvers do it: tolerance on |f| in its own units,
     // at least one step, the last evaluation giving the result.
-    double xi = xi1, f = 1.0;
-    int rounds = 0;
-    while (std::fabs(f) > 0.001) {
-        if (rounds++ >= maxRounds) {
-            r.stop = TieStop::NotConverged;
-            return r;
-        }
-        xi = (f2 * xi1 - f1 * xi2) / (f2 - f1);
-        f = symmetricResidual(t, xi, omega);
-        if (f * f1 < 0)
-            xi2 = xi, f2 = f;
-        else
-            xi1 = xi, f1 = f;
+    const Root root = falsePosition([&](double xi) { return symmetricResidual(t, xi, omega); },
+                                    xi1, f1, xi2, f2, FalsePositionRule{});
+    if (!root.converged()) {
+        r.stop = TieStop::NotConverged;
+        return r;
     }
+    const double xi = root.x;
     if (!(omega > 0) || !std::isfinite(omega)) {
         r.stop = TieStop::NoNeutralAxis;
         return r;

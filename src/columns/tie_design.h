@@ -21,7 +21,7 @@ enum class TieStop {
     None,
     SectionTooSmall,  // the ductility limit lies at or above the compressed layer
     NoNeutralAxis,    // no strain plane balances the forces with equal layers
-    NotConverged,     // the search met its guard
+    NotConverged,     // the search stalled (see falsePosition)
 };
 
 enum class TieCase {
@@ -51,10 +51,6 @@ struct SymmetricTie {
     double omega = 0;      // each of the two equal layers
 };
 
-// The rounds of the neutral-axis search before it gives up: far above what any
-// section needs (a few dozen), so it never cuts a search that converges.
-inline constexpr int kTieSearchRounds = 100000;
-
 // Stress ratios sigma / fyd (tension positive) of the layers at d and d', for the
 // strain plane of the ultimate state with the neutral axis at xi = x/d (0 <= xi <= 1).
 struct LayerStresses {
@@ -63,6 +59,6 @@ struct LayerStresses {
 LayerStresses tieLayerStresses(const TieSection& section, double xi);
 
 // The equal area per face, by a false-position search on the neutral axis.
-SymmetricTie designSymmetricTie(const TieSection& section, int maxRounds = kTieSearchRounds);
+SymmetricTie designSymmetricTie(const TieSection& section);
 
 }  // namespace morve

@@ -151,7 +151,10 @@ void ModuleHost::applyScreenEffects(const Outcome& outcome, ScreenWindow* caller
     // window comes back rather than leaving the user before an empty backdrop.
     bool anyShown = false;
     for (const auto& [name, w] : windows_) anyShown = anyShown || w->isVisible();
-    if (!anyShown && !windows_.empty()) showScreen(session_.info().key);
+    if (!anyShown && !windows_.empty()) {
+        session_.apply(Outcome::done().then(EffectKind::ShowScreen, session_.info().key));
+        showScreen(session_.info().key);
+    }
 }
 
 void ModuleHost::companionClosed(const std::string& screen) {
@@ -164,7 +167,9 @@ void ModuleHost::companionClosed(const std::string& screen) {
     for (const auto& [name, w] : windows_) {
         if (!w->isVisible()) continue;
         anyShown = true;
-        if (w != shell_.reportCaller()) w->setEnabled(true);
+        if (w == shell_.reportCaller()) continue;
+        w->setEnabled(true);
+        back.then(EffectKind::EnableScreen, name);
     }
     if (!anyShown) back.then(EffectKind::ShowScreen, session_.info().key);
     session_.apply(back);

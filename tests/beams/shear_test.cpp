@@ -130,7 +130,6 @@ TEST(Form5Design, ProposalOfStirrupsStepsAtWholeSetsOfTwoLegs) {
 using K = MessageKind;
 const CheckCase kChecks[] = {
     {"low fck", good({{"Text1", "19.9"}, {"Text2", "0"}}), {}, msg::kLowFck, K::Warning, ""},
-    {"high fck", good({{"Text1", "90.1"}}), {}, msg::kHighFck, K::Warning, "Form5.Text1"},
     {"fyk", good({{"Text2", "0"}, {"Text3", "0"}}), {}, "Forneça um valor positivo para fyk", K::Warning, "Form5.Text2"},
     {"steel class", good({{"Text2", "450"}, {"Text3", "0"}}), {"yes"}, msg::kSteelClass, K::YesNo, "Form5.Text2"},
     {"bw", good({{"Text3", "0"}, {"Text4", "0"}}), {}, "Forneça um valor positivo para bw", K::Warning, "Form5.Text3"},
@@ -139,8 +138,6 @@ const CheckCase kChecks[] = {
     {"Vk", good({{"Text5", "-5"}, {"List1", ""}}), {}, "Forneça um valor positivo para Vk", K::Warning, "Form5.Text5"},
     {"stirrup", good({{"List1", ""}, {"Text13", "0.9"}}), {}, msg::kChooseStirrup, K::Warning, "Form5.List1"},
     {"Gamac", good({{"Text13", "0.9"}, {"Text14", "0.9"}}), {}, msg::kPartialCoefficient, K::Warning, "Form5.Text13"},
-    {"Gamas", good({{"Text14", "0.99"}, {"Text15", "0.9"}}), {}, msg::kPartialCoefficient, K::Warning, "Form5.Text14"},
-    {"Gamaf", good({{"Text15", "0"}}), {}, msg::kPartialCoefficient, K::Warning, "Form5.Text15"},
     // Vk 300: tauwd = 4200/720 = 5.83 > 3.549.
     {"strut", good({{"Text5", "300"}}), {}, msg::kCrushedStrut, K::Warning, ""},
 };

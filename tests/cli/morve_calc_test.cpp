@@ -66,6 +66,22 @@ TEST(MorveCalc, AStopReportsItsMessageAndFocus) {
     EXPECT_EQ(j["fields"]["Form7.Text6"], "50");  // nothing typed is changed
 }
 
+TEST(MorveCalc, ButtonsTheScreenDoesNotOfferAreRefusedAndChangeNothing) {
+    // Form7's "Detalhamento" after a failed "&CALCULAR", and the OK of a layer table
+    // never opened, holding a cell the desktop could not have cut mid-character.
+    Result r = runCalc(writeCase("refused", R"({"module": "Form7", "press": ["Command1", "Command3"]})"));
+    ASSERT_EQ(r.status, 0) << r.out;
+    json j = json::parse(r.out);
+    EXPECT_EQ(j["steps"][1]["refused"], "disabled");
+    EXPECT_TRUE(j["steps"][1]["effects"].empty());
+    r = runCalc(writeCase("hidden", R"({"module": "Form12", "grids": {"Form12b.Grade1": [["1", "çãé€"]]},
+        "press": ["Form12b.Command2"]})"));
+    ASSERT_EQ(r.status, 0) << r.out;
+    j = json::parse(r.out);
+    EXPECT_EQ(j["steps"][0]["refused"], "hidden");
+    EXPECT_EQ(j["grids"]["Form12b.Grade1"][1][1], "çãé€");
+}
+
 TEST(MorveCalc, WritesTheReportAsText) {
     fs::path out = fs::temp_directory_path() / "morve-calc-test-report.txt";
     Result r = runCalc("--report " + out.string() + " --title 'Viga V1' " +
@@ -99,6 +115,8 @@ TEST(MorveCalc, UnusableCasesExitWithTwoAndSayWhy) {
         {R"({"module": "Form7", "press": ["Command9"]})", "botão desconhecido: Command9"},
         {R"({"module": "Form7", "startup": {"fck": "22"}})", "valor de início inexistente para fck: 22"},
         {R"({"module": "Form7", "grids": {"Grade1": []}})", "grade desconhecida: Grade1"},
+        {R"({"module": "Form7", "set": {"Text6": 1e999}})", "número fora do alcance"},
+        {R"({"module": "Form7", "set": {"Text7": "5"}})", "Text7 mostra um resultado"},
     };
     int i = 0;
     for (const auto& c : cases) {
@@ -106,6 +124,15 @@ TEST(MorveCalc, UnusableCasesExitWithTwoAndSayWhy) {
         EXPECT_EQ(r.status, 2) << c.body;
         EXPECT_NE(r.out.find(c.says), std::string::npos) << c.body << "\n" << r.out;
     }
+    // Nesting deep enough to exhaust a recursive reader, and a name too long to
+    // quote in full.
+    const std::string deep = std::string(150000, '[') + std::string(150000, ']');
+    Result r = runCalc(writeCase("deep", R"({"module": "Form7", "set": {"Text6": )" + deep + "}}"));
+    EXPECT_EQ(r.status, 2);
+    EXPECT_NE(r.out.find("aninhados demais"), std::string::npos) << r.out.substr(0, 200);
+    r = runCalc(writeCase("long", R"({"module": "Form7", "set": {")" + std::string(5000, 'x') + R"(": 1}})"));
+    EXPECT_EQ(r.status, 2);
+    EXPECT_LT(r.out.size(), 200u);
     EXPECT_EQ(runCalc("/nonexistent/case.json").status, 2);
     EXPECT_EQ(runCalc("").status, 2);
 }

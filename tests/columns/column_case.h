@@ -20,6 +20,9 @@ struct ColumnCase {
     std::map<std::string, std::string> set;
     std::vector<int> layers;  // bars per layer, for the layered forms
     std::vector<std::string> answers;
+    // Texts typed after a first calculation that succeeded, before `command`: the
+    // way to a button that opens disabled.
+    std::map<std::string, std::string> retype = {};
 
     struct Run {
         std::unique_ptr<ModuleSession> session;
@@ -42,6 +45,11 @@ struct ColumnCase {
             rows.resize(1);
             for (std::size_t i = 0; i < layers.size(); ++i)
                 rows.push_back({std::to_string(i + 1), std::to_string(layers[i])});
+        }
+        if (!retype.empty()) {
+            ScriptedPrompter quiet;
+            EXPECT_TRUE(r.session->press(r.session->info().calculate, quiet).completed) << module;
+            for (const auto& [box, text] : retype) s.setText(box, text);
         }
         ScriptedPrompter prompter(answers);
         r.outcome = r.session->press(command.empty() ? r.session->info().calculate : command, prompter);

@@ -59,8 +59,6 @@ const std::vector<Stop>& stops() {
         {"Form12", {{"Text8", "-1"}}, "O esforço normal Nk não pode ser negativo.", "Text8"},
         {"Form12", {{"Text9", "-1"}}, "O momento fletor Mk não pode ser negativo.", "Text9"},
         {"Form12", {{"Text16", "0.9"}}, kCoefficient, "Text16"},
-        {"Form12", {{"Text14", "0.9"}}, kCoefficient, "Text14"},
-        {"Form12", {{"Text15", "0.9"}}, kCoefficient, "Text15"},
         {"Form12", {{"Text4", "13"}}, "A NBR-6118 não admite pilares com dimensão menor que 14cm. VOCÊ QUER CORRIGIR A DIMENSÃO?", "Text4", {"yes"}},
         {"Form12", {{"Text4", "18"}}, kSlender + "Gamaf?", "Text15", {"yes"}},
         {"Form12", {{"Text4", "14"}, {"Text5", "14"}, {"Text8", "1500"}}, "A taxa de armadura é superior a 8%. Aumente as dimensões da seção de concreto.", "", {"no", "no"}},
@@ -111,7 +109,9 @@ const std::vector<Stop>& stops() {
 TEST(ColumnChecks, EachCheckStopsWithItsWordsAndFocus) {
     for (const Stop& row : stops()) {
         ColumnCase c = validCases().at(row.module);
-        for (const auto& [box, text] : row.set) c.set[box] = text;
+        const morve::ModuleSession fresh(*morve::ModuleRegistry::find(row.module), morve::StartDefaults{});
+        const bool opensDisabled = !row.command.empty() && !fresh.refusal(row.command).empty();
+        for (const auto& [box, text] : row.set) (opensDisabled ? c.retype : c.set)[box] = text;
         if (!row.layers.empty()) c.layers = row.layers;
         c.answers = row.answers;
         auto r = c.press(row.command);
@@ -180,15 +180,18 @@ TEST(LayerTable, OpensWithNRowsKeepsTypedBarsAndTrimsOnOk) {
     EXPECT_FALSE(session.screenShown("Form13"));
     auto& rows = session.state().grid("Form13b.Grade1");
     ASSERT_EQ(rows.size(), 3u);
+    // "OK" keeps three characters of a count, never part of one.
     rows[1][1] = "12345";
+    rows[2][1] = "çãé€";
+    session.press("Form13b.Command2", prompter);
+    EXPECT_TRUE(session.screenShown("Form13"));
+    EXPECT_EQ(session.state().grid("Form13b.Grade1")[1][1], "123");
+    EXPECT_EQ(session.state().grid("Form13b.Grade1")[2][1], "çãé");
     session.state().setText("Text7", "3");
     session.press("Command3", prompter);
     ASSERT_EQ(session.state().grid("Form13b.Grade1").size(), 4u);
     EXPECT_EQ(session.state().grid("Form13b.Grade1")[3][0], "3");
-    EXPECT_EQ(session.state().grid("Form13b.Grade1")[1][1], "12345");
-    session.press("Form13b.Command2", prompter);
     EXPECT_EQ(session.state().grid("Form13b.Grade1")[1][1], "123");
-    EXPECT_TRUE(session.screenShown("Form13"));
 }
 
 TEST(ColumnReports, EveryKeyPrintsItsBoxes) {

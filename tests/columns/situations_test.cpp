@@ -1,6 +1,7 @@
 // Column design situations: the eccentricities and situations of the four column
 // types against hand calculations, the slenderness limits, the checks in order,
 // the screens and the plot, and the report.
+#include "../module_run.h"
 #include "../stop_expectations.h"
 #include "basis/messages.h"
 #include "column_case.h"
@@ -14,32 +15,19 @@ namespace {
 const Module& form35() { return *ModuleRegistry::find("Form35"); }
 using Rows = std::vector<std::vector<std::string>>;
 
-struct Run {
-    std::unique_ptr<ModuleSession> session;
-    ScriptedPrompter prompter;
-    Outcome outcome;
-    const std::string& text(const std::string& name) const { return session->state().text(name); }
-    Rows rows() const {
-        const GridRows& g = session->state().grid("Form35c.Grade1");
-        return {g.begin() + 1, g.end()};
-    }
-};
+using morve::testing::Run;
+
+Rows rows(const Run& run) {
+    const GridRows& g = run.session->state().grid("Form35c.Grade1");
+    return {g.begin() + 1, g.end()};
+}
 
 // A 20 x 20 column, 3 m both ways, Fk 500 kN, fck 20, Ecs 25757, phi 2.5, then the
 // changes of the case ("Option2": "True" picks the other section).
 std::unique_ptr<Run> calculate(const std::map<std::string, std::string>& set,
                                std::vector<std::string> answers = {}) {
-    auto run = std::make_unique<Run>();
-    run->session = std::make_unique<ModuleSession>(form35(), StartDefaults{});
-    FormState& s = run->session->state();
-    for (const auto& [name, value] : std::map<std::string, std::string>{{"Text8", "3"}, {"Text9", "3"}, {"Text14", "500"}})
-        s.setText(name, value);
-    for (const auto& [name, value] : set)
-        if (name.rfind("Option", 0) == 0) s.setOption(name, value == "True");
-        else s.setText(name, value);
-    run->prompter = ScriptedPrompter(std::move(answers));
-    run->outcome = run->session->press("Command3", run->prompter);
-    return run;
+    const auto boxes = morve::testing::with({{"Text8", "3"}, {"Text9", "3"}, {"Text14", "500"}}, set);
+    return morve::testing::pressWith("Form35", "Command3", boxes, std::move(answers));
 }
 
 struct SituationCase {
@@ -89,7 +77,7 @@ TEST(Form35Situations, FourColumnTypesByHand) {
         auto run = calculate(c.set);
         ASSERT_TRUE(run->outcome.completed);
         for (const auto& [box, text] : c.boxes) EXPECT_EQ(run->text("Form35c." + box), text) << box;
-        EXPECT_EQ(run->rows(), c.rows);
+        EXPECT_EQ(rows(*run), c.rows);
     }
 }
 
@@ -162,7 +150,7 @@ TEST(Form35Checks, WarningsAndNoAnswersGoOn) {
     EXPECT_EQ(run->prompter.messages()[2].text,
               "ATENÇÃO: A área da seção do pilar é menor que 360cm2, o que não é permitido pela NBR-6118.");
     EXPECT_EQ(run->prompter.messages()[2].kind, MessageKind::Warning);
-    for (const auto& row : run->rows())
+    for (const auto& row : rows(*run))
         for (const auto& cell : row) EXPECT_EQ(cell.find_first_of("ni"), std::string::npos) << cell;  // no nan, inf
 }
 
