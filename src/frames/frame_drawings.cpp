@@ -7,6 +7,7 @@
 #include "app/grid_tables.h"
 #include "app/numbers.h"
 #include "frames/form33.h"
+#include "frames/frame_report.h"
 
 namespace morve {
 
@@ -28,7 +29,7 @@ std::optional<FrameModel> outlineOf(const FormState& s, const std::string& heigh
 
 // One bar's diagram along its length: values at the two ends joined by a line,
 // shaded against the axis, with the end values written and the title above.
-Drawing barDiagram(const std::string& title, double length, double start, double end) {
+Drawing barDiagram(const std::string& title, const std::string& bar, double length, double start, double end) {
     Drawing d;
     const double peak = std::max({std::abs(start), std::abs(end), 1e-12});
     const double scale = 0.3 * length / peak;
@@ -39,7 +40,8 @@ Drawing barDiagram(const std::string& title, double length, double start, double
     d.top = -0.55 * length;
     d.bottom = 0.5 * length;
     d.text({length / 2, -0.47 * length}, title, 10, TextAlign::Centre);
-    d.polyline({a, pa, pb, b}, true, colours::blue, 1, true);
+    d.text({length / 2, 0.44 * length}, bar, 9, TextAlign::Centre, colours::grey);
+    d.polyline({a, pa, pb, b}, true, Colour{200, 215, 245}, 1, true);
     d.polyline({a, pa, pb, b}, true, colours::blue, 1.5);
     d.line(a, b, colours::black, 2);
     d.text({0, start * scale + (start >= 0 ? 0.06 : -0.06) * length}, formatResult(start, 2), 9, TextAlign::Left);
@@ -101,11 +103,12 @@ Drawing beamDiagram(const FormState& s, int row, bool shear) {
     const int span = static_cast<int>(cellOr(s, moments, row, 1));
     if (!m || span < 1 || span > static_cast<int>(m->spans.size())) return {};
     const double l = m->spans[static_cast<std::size_t>(span - 1)];
+    const std::string bar = "Nível " + reportCell(s, moments, row, 0) + " - Vão " + std::to_string(span);
     if (shear) {
         const double v = cellOr(s, shears, row, 2);
-        return barDiagram("Esforços cortantes(kN)", l, v, v);
+        return barDiagram("Esforços cortantes(kN)", bar, l, v, v);
     }
-    return barDiagram("Momentos fletores (kNm)", l, cellOr(s, moments, row, 2), cellOr(s, moments, row, 3));
+    return barDiagram("Momentos fletores (kNm)", bar, l, cellOr(s, moments, row, 2), cellOr(s, moments, row, 3));
 }
 
 Drawing columnDiagram(const FormState& s, int row, int which) {
@@ -115,10 +118,12 @@ Drawing columnDiagram(const FormState& s, int row, int which) {
     const int storey = static_cast<int>(cellOr(s, moments, row, 0));
     if (!m || storey < 1 || storey > m->levels()) return {};
     const double h = m->heights[static_cast<std::size_t>(storey - 1)];
+    const std::string bar = "Andar " + std::to_string(storey) + " - Pilar " + reportCell(s, moments, row, 1) +
+                            "  (base à esquerda, topo à direita)";
     // The column is laid along the page from its base (left) to its top (right).
-    if (which == 0) return barDiagram("Momentos fletores (kNm)", h, cellOr(s, moments, row, 2), cellOr(s, moments, row, 3));
+    if (which == 0) return barDiagram("Momentos fletores (kNm)", bar, h, cellOr(s, moments, row, 2), cellOr(s, moments, row, 3));
     const double value = cellOr(s, forces, row, which == 1 ? 3 : 2);
-    return barDiagram(which == 1 ? "Esforços cortantes(kN)" : "Esforços normais(kN)", h, value, value);
+    return barDiagram(which == 1 ? "Esforços cortantes(kN)" : "Esforços normais(kN)", bar, h, value, value);
 }
 
 }  // namespace morve
