@@ -8,6 +8,7 @@
 #include <functional>
 
 #include "../beams/beam_session.h"
+#include "../finite_expectations.h"
 #include "../stop_expectations.h"
 #include "frames/frame_texts.h"
 
@@ -188,4 +189,39 @@ TEST(Form33, PDeltaAndInfillMessagesKeepResults) {
     EXPECT_TRUE(o.completed);
     EXPECT_EQ(filled.lastMessage(), txtframe::kInfillLost);
     EXPECT_EQ(filled.text("Form33e.Text1"), bare.text("Form33e.Text1"));
+}
+
+// Every box and cell of the frame with P-delta and infill on, given hostile texts:
+// each press ends in a result or a message, nothing reads "nan" or "inf".
+TEST(Form33, HostileTextsEndInAResultOrAMessage) {
+    const std::string hostile[] = {"", "abc", "1e308", "-0", "-1", "99999999", "0.0000001", "1" + std::string(308, '0')};
+    auto prepared = [] {
+        BeamRun run = portal({"yes", "yes"});
+        run.session.state().setOption("Form33d.Option1", true);
+        run.press("Form33i.Option2");
+        run.set({{"Form33i.Text1", "3000"}, {"Form33i.Text2", "3"}});
+        return run;
+    };
+    BeamRun base = prepared();
+    std::vector<std::pair<std::string, std::pair<int, int>>> places;
+    for (const char* box : {"Text1", "Text2", "Text3", "Text4", "Form33i.Text1", "Form33i.Text2", "Form33i.Text4"})
+        places.push_back({box, {-1, -1}});
+    for (const char* grid : {"Form33b.Grade1", "Form33b.Grade2", "Form33c.Grade1", "Form33c.Grade2", "Form33c.Grade3",
+                             "Form33d.Grade1", "Form33d.Grade2"})
+        for (int c = 1; c < static_cast<int>(base.session.state().grid(grid)[1].size()); ++c) places.push_back({grid, {1, c}});
+    for (const auto& [name, at] : places)
+        for (const std::string& text : hostile) {
+            SCOPED_TRACE(name + " = " + text);
+            BeamRun run = prepared();
+            if (at.first < 0) run.set({{name, text}});
+            else run.session.state().grid(name)[static_cast<std::size_t>(at.first)][static_cast<std::size_t>(at.second)] = text;
+            for (const char* command : {"Command3", "Command12", "Form33e.Command1", "Form33e.Command3"}) {
+                const std::size_t before = run.prompter.messages().size();
+                const Outcome o = run.press(command);
+                EXPECT_TRUE(o.completed || run.prompter.messages().size() > before) << command;
+            }
+            EXPECT_FALSE(anyNotFinite(run.session.state()));
+            for (const char* picture : {"Form33f.Picture1", "Form33g.Picture1", "Form33h.Picture3"})
+                EXPECT_TRUE(finitePicture(run.session.module().drawing(picture, run.session.state()))) << picture;
+        }
 }
