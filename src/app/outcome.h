@@ -44,6 +44,13 @@ struct Outcome {
 // The toolbar's "Imprimir" of a module window, as a control name.
 inline std::string printButton(const std::string& screen) { return screen + ".Toolbar1.Imprimir"; }
 
+// A companion screen takes the place of another, the focus where it is asked.
+inline Outcome switchTo(const std::string& from, const std::string& to, std::string focus = {}) {
+    Outcome o = Outcome::done().then(EffectKind::HideScreen, from).then(EffectKind::ShowScreen, to);
+    o.focus = std::move(focus);
+    return o;
+}
+
 const char* effectKindName(EffectKind kind);
 
 }  // namespace morve

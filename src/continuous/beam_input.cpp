@@ -23,12 +23,6 @@ constexpr char kFieldEnd = '\x1e', kRowEnd = '\x1d', kCellEnd = '\x1f';
 
 }  // namespace
 
-int dataRows(const FormState& s, const std::string& grid) {
-    return std::max(0, static_cast<int>(s.grid(grid).size()) - 1);
-}
-
-int countIn(const FormState& s, const std::string& box) { return indexIn(s.number(box)); }
-
 void checkSpanCount(CheckSequence& checks, int n) {
     checks.warnIf(n < 1, txt34::kMinSpans, "Text3").warnIf(n > kBeamMaxSpans, txt34::kMaxSpans, "Text3");
 }

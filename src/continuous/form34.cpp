@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "app/grid_tables.h"
 #include "app/numbers.h"
 #include "basis/checks.h"
 #include "basis/messages.h"
@@ -29,19 +30,6 @@ GridDecl table(std::vector<std::string> header, int maxRows, KeyFilter filter, b
 
 GridDecl results(std::vector<std::string> header) { return table(std::move(header), 0, KeyFilter::None, true); }
 
-// A table takes `rows` data rows; the cells already typed in the rows that stay are
-// kept, new cells are blank, and a numbered table numbers its rows.
-void sizeTable(FormState& s, const std::string& grid, int rows, bool numbered) {
-    GridRows& g = s.grid(grid);
-    const std::size_t columns = s.declaration(grid)->grid.header.size();
-    if (g.empty()) g.push_back(s.declaration(grid)->grid.header);
-    g.resize(static_cast<std::size_t>(rows) + 1, std::vector<std::string>(columns, " "));
-    for (std::size_t r = 1; r < g.size(); ++r) {
-        g[r].resize(columns, " ");
-        if (numbered) g[r][0] = std::to_string(r);
-    }
-}
-
 // On leaving a table each cell is cut to its field: two characters for a node,
 // type or span, nine for a number.
 void cutCells(FormState& s, const std::string& grid, int indexColumns) {
@@ -59,12 +47,6 @@ bool filledRow(const std::vector<std::string>& row) {
     for (std::size_t c = 1; c < row.size(); ++c)
         if (!blank(row[c])) return true;
     return false;
-}
-
-Outcome switchTo(const std::string& from, const std::string& to, std::string focus = {}) {
-    Outcome o = Outcome::done().then(EffectKind::HideScreen, from).then(EffectKind::ShowScreen, to);
-    o.focus = std::move(focus);
-    return o;
 }
 
 Outcome beamData(FormState& s, Prompter& prompter) {

@@ -3,6 +3,7 @@
 // supports, fixed ends and columns, under nodal, concentrated and uniform loads.
 // Its tables are typed on companion screens; "CALCULAR" fills the result tables,
 // the diagrams and the deformed shape.
+#include "app/grid_tables.h"
 #include "app/module.h"
 #include "continuous/beam_analysis.h"
 
@@ -37,8 +38,6 @@ std::optional<AnalysedBeam> lastAnalysis(const FormState& state);
 // Kept at the end of a good "CALCULAR".
 void keepAnalysedInputs(FormState& state);
 
-int countIn(const FormState& state, const std::string& box);
-int dataRows(const FormState& state, const std::string& grid);
 // The load tables into the model (its spans already read), each with its checks;
 // a failed check leaves the focus on `focus`.
 void readNodalLoads(const FormState& state, BeamModel& model, CheckSequence& checks, const std::string& focus);

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "../beams/beam_session.h"
+#include "../finite_expectations.h"
 #include "../stop_expectations.h"
 #include "continuous/form34_texts.h"
 
@@ -223,30 +224,6 @@ TEST(Form34, TwoSpansEndToEnd) {
         EXPECT_FALSE(run.session.module().drawing(picture, s).empty()) << picture;
 }
 
-bool anyNotFinite(const FormState& s) {
-    auto bad = [](const std::string& t) { return t.find("nan") != std::string::npos || t.find("inf") != std::string::npos; };
-    for (const auto& [name, text] : s.texts())
-        if (bad(text)) return true;
-    for (const auto& [name, rows] : s.grids())
-        for (const auto& row : rows)
-            for (const auto& cell : row)
-                if (bad(cell)) return true;
-    return false;
-}
-
-bool finitePicture(const Drawing& d) {
-    bool ok = std::isfinite(d.left) && std::isfinite(d.right) && std::isfinite(d.top) && std::isfinite(d.bottom);
-    auto at = [&](const Point& p) { ok = ok && std::isfinite(p.x) && std::isfinite(p.y); };
-    for (const Shape& shape : d.shapes)
-        std::visit([&](const auto& g) {
-            using G = std::decay_t<decltype(g)>;
-            if constexpr (std::is_same_v<G, Line>) at(g.from), at(g.to);
-            else if constexpr (std::is_same_v<G, Polyline>) for (const Point& p : g.points) at(p);
-            else if constexpr (std::is_same_v<G, Circle>) at(g.centre);
-            else at(g.at), ok = ok && g.text.find("nan") == std::string::npos && g.text.find("inf") == std::string::npos;
-        }, shape.geometry);
-    return ok;
-}
 
 TEST(Form34, HostileTextsEndInAResultOrAMessage) {
     const std::string hostile[] = {"", "abc", "1e308", "-0", "-1", "99999999", "0.0000001", "1" + std::string(308, '0'), "1" + std::string(400, '0')};

@@ -1,0 +1,227 @@
+// Form33 as a user drives it: the checks of each button in order with their texts
+// and focus, a typed portal against slope-deflection, P-delta and infill from the
+// screens, the report and the diagrams.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+
+#include "../beams/beam_session.h"
+#include "../finite_expectations.h"
+#include "../stop_expectations.h"
+#include "frames/frame_texts.h"
+
+using namespace morve;
+using morve::testing::BeamRun;
+
+namespace {
+
+GridRows numbered(const std::string& c0, const std::vector<std::vector<std::string>>& rows) {
+    GridRows g{{c0}};
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        g.push_back({std::to_string(i + 1)});
+        g.back().insert(g.back().end(), rows[i].begin(), rows[i].end());
+    }
+    return g;
+}
+
+// A portal of 4 m columns 20 x 50 (I = 208333 cm4) and a 6 m beam 20 x 60
+// (I = 360000 cm4), 10 kN of wind, typed table by table. Areas are typed so large
+// that no bar shortens, as slope-deflection assumes.
+BeamRun portal(std::vector<std::string> answers = {}) {
+    BeamRun run("Form33", std::move(answers));
+    run.set({{"Text3", "2"}, {"Text4", "1"}, {"Text2", "25000"}, {"Text1", "25"}, {"Text7", "400"}});
+    FormState& s = run.session.state();
+    run.press("Command8");
+    s.grid("Form33b.Grade1") = numbered("Andar", {{"4"}});
+    s.grid("Form33b.Grade2") = numbered("Pilar", {{"1000000", "208333"}, {"1000000", "208333"}});
+    run.press("Command4");
+    s.grid("Form33c.Grade1") = numbered("Vão", {{"6"}});
+    s.grid("Form33c.Grade2") = numbered("Viga", {{"1000000", "360000"}});
+    run.press("Command10");
+    s.grid("Form33d.Grade1") = numbered("Nível", {{"10"}});
+    s.grid("Form33d.Grade2") = numbered("Nível", {{"400"}});
+    return run;
+}
+
+struct StopCase {
+    const char* what;
+    std::map<std::string, std::string> boxes;
+    std::string command, text, focus;
+    MessageKind kind = MessageKind::Warning;
+};
+
+}  // namespace
+
+TEST(Form33, TableButtonsCheckInOrder) {
+    const std::vector<StopCase> cases = {
+        {"low fck", {{"Text1", "15"}}, "Command8", "A menor resistência admitida na NBR-6118 é igual a 20 MPa. Aumente o valor de fck.", ""},
+        {"high fck", {{"Text1", "95"}}, "Command4", txtframe::kHighFck8953, "Form33.Text1"},
+        {"no Ecs", {{"Text2", ""}}, "Command10", "Forneça um valor positivo para Ecs.", "Form33.Text2"},
+        {"odd Ecs", {{"Text2", "50000"}}, "Command1", txtframe::kEcsRange, "Form33.Text2", MessageKind::YesNo},
+        {"one column", {{"Text3", "1"}, {"Text4", "3"}}, "Command8", txtframe::kMinColumns, "Form33.Text3"},
+        {"41 columns", {{"Text3", "41"}, {"Text4", "3"}}, "Command12", txtframe::kMaxColumns, "Form33.Text3"},
+        {"no level", {{"Text3", "3"}, {"Text4", "0"}}, "Command8", txtframe::kMinBeams, "Form33.Text4"},
+        {"huge count", {{"Text3", "3"}, {"Text4", "99999999999"}}, "Command8", txtframe::kMaxBeams, "Form33.Text4"},
+    };
+    for (const StopCase& c : cases) {
+        BeamRun run("Form33", {"yes"});
+        run.set(c.boxes);
+        const Outcome o = run.press(c.command);
+        SCOPED_TRACE(c.what);
+        expectStop(run.prompter, o, c.text, c.kind, c.focus);
+    }
+}
+
+TEST(Form33, CalculateChecksInOrder) {
+    struct Case {
+        const char* what;
+        std::function<void(BeamRun&)> spoil;
+        std::string text, focus;
+    };
+    auto cell = [](const char* grid, int r, int c, const char* text) {
+        return [=](BeamRun& run) { run.session.state().grid(grid)[static_cast<std::size_t>(r)][static_cast<std::size_t>(c)] = text; };
+    };
+    const std::vector<Case> cases = {
+        {"101 levels", [](BeamRun& r) { r.set({{"Text4", "101"}}); }, txtframe::kMaxBeams, "Form33.Text4"},
+        {"more columns", [](BeamRun& r) { r.set({{"Text3", "3"}}); }, txtframe::kUpdateColumns, "Form33.Command8"},
+        {"beam rows", [](BeamRun& r) { r.session.state().grid("Form33c.Grade2").pop_back(); }, txtframe::kUpdateBeams, "Form33.Command4"},
+        {"load rows", [](BeamRun& r) { r.session.state().grid("Form33d.Grade2").pop_back(); }, txtframe::kUpdateLoads, "Form33.Command10"},
+        {"panel rows", [](BeamRun& r) { r.session.state().setOption("Form33i.Option2", true); r.session.state().setOption("Form33i.Option3", true); },
+         txtframe::kUpdateMasonry, "Form33.Command1"},
+        {"zero height", cell("Form33b.Grade1", 1, 1, "0"), txtframe::kZeroHeight, "Form33.Command8"},
+        {"column inertia", cell("Form33b.Grade2", 2, 2, "abc"), txtframe::kColumnInertia, "Form33.Command8"},
+        {"column area", cell("Form33b.Grade2", 1, 1, ""), txtframe::kColumnArea, "Form33.Command8"},
+        {"span", cell("Form33c.Grade1", 1, 1, "-0"), txtframe::kZeroSpan, "Form33.Command4"},
+        {"beam inertia", cell("Form33c.Grade2", 1, 2, "0"), txtframe::kBeamInertia, "Form33.Command4"},
+        {"beam area", cell("Form33c.Grade2", 1, 1, "0"), txtframe::kBeamArea, "Form33.Command4"},
+        {"reduction", cell("Form33c.Grade3", 1, 1, "90.5"), txtframe::kRelease, "Form33.Command4"},
+        {"no wind", cell("Form33d.Grade1", 1, 1, "0"), txtframe::kNoWind, "Form33.Command10"},
+        {"masonry modulus", [](BeamRun& r) { r.session.state().setOption("Form33i.Option2", true); },
+         txtframe::kMasonryModulus, "Form33i.Text1"},
+        {"wall too slender", [](BeamRun& r) {
+             r.session.state().setOption("Form33i.Option2", true);
+             r.set({{"Form33i.Text1", "3000"}, {"Form33i.Text2", "4"}, {"Form33i.Text4", "9"}});
+         }, txtframe::kSlenderWall, "Form33.Command1"},
+        {"no stiffness", [](BeamRun& r) { r.set({{"Text2", "0"}}); }, txtframe::kSingular, ""},
+        {"infinite modulus", [](BeamRun& r) { r.set({{"Text2", std::string(400, '9')}}); }, txtframe::kSingular, ""},
+    };
+    for (const Case& c : cases) {
+        BeamRun run = portal();
+        c.spoil(run);
+        const Outcome o = run.press("Command3");
+        SCOPED_TRACE(c.what);
+        expectStop(run.prompter, o, c.text, MessageKind::Warning, c.focus);
+    }
+    // 41 levels of 12 columns is 504 nodes.
+    BeamRun run("Form33");
+    run.set({{"Text3", "12"}, {"Text4", "41"}});
+    for (const char* b : {"Command8", "Command4", "Command10"}) run.press(b);
+    expectStop(run.prompter, run.press("Command3"), txtframe::kTooManyNodes, MessageKind::Warning, "Form33.Text4");
+}
+
+// The portal's tables against slope-deflection (columns 20 x 50, beam 20 x 60,
+// E = 25 GPa): theta = 6 a d / (h (4a + 6b)), (4a/h)(6d/h - 3 theta) = F give a sway
+// of 0.0706 cm, column moments of 11.26 kNm at the base and 8.74 kNm at the top,
+// 8.74 kNm at the beam's ends and a shear of 2.91 kN in the beam and, as axial
+// force, in the columns. Signs: the base tensions the windward face, the beam
+// sags at its left end, the windward column pulls.
+TEST(Form33, PortalRunFillsTheTables) {
+    BeamRun run = portal();
+    const Outcome o = run.press("Command3");
+    ASSERT_TRUE(o.completed) << run.lastMessage();
+    const FormState& s = run.session.state();
+    EXPECT_EQ(s.grid("Form33e.Grade5")[1][1], "0.07");
+    EXPECT_EQ(s.grid("Form33e.Grade1")[1][2], "8.74");
+    EXPECT_EQ(s.grid("Form33e.Grade1")[1][3], "-8.74");
+    EXPECT_EQ(s.grid("Form33e.Grade2")[1][2], "-2.91");
+    for (int c : {1, 2}) {
+        EXPECT_EQ(s.grid("Form33e.Grade3")[c][2], "-11.26");
+        EXPECT_EQ(s.grid("Form33e.Grade3")[c][3], "8.74");
+        EXPECT_EQ(s.grid("Form33e.Grade4")[c][3], "5");
+    }
+    EXPECT_EQ(s.grid("Form33e.Grade4")[1][2], "-2.91");
+    EXPECT_EQ(s.grid("Form33e.Grade4")[2][2], "2.91");
+    EXPECT_EQ(s.text("Form33e.Text1"), "0.071");
+    // GamaZ = 1 / (1 - 400 * 0.000706 / 40).
+    EXPECT_EQ(s.text("Form33e.Text2"), "1.01");
+
+    const std::vector<std::string> lines = run.report("Form33");
+    auto has = [&](const std::string& l) { return std::find(lines.begin(), lines.end(), l) != lines.end(); };
+    EXPECT_TRUE(has("Desprezada. Logo, consideram-se ligações rígidas com os pilares."));
+    EXPECT_TRUE(has("Análise linear geométrica - Teoria de primeira ordem "));
+    EXPECT_TRUE(has("Não considera a contribuição das alvenarias "));
+    EXPECT_TRUE(has("Coeficiente Gamaz= 1.01"));
+    EXPECT_TRUE(has("Deslocamentos médio= 0.071 cm"));
+    EXPECT_TRUE(has("Força vertical total atribuída ao pórtico= 400 kN"));
+
+    // The diagrams of the beam and the column picked.
+    run.set({{"Form33e.Text4", "1"}, {"Form33e.Text5", "2"}});
+    EXPECT_TRUE(run.press("Form33e.Command1").completed);
+    EXPECT_TRUE(run.press("Form33e.Command3").completed);
+    for (const char* p : {"Form33g.Picture1", "Form33g.Picture2", "Form33h.Picture1", "Form33h.Picture2", "Form33h.Picture3", "Form33f.Picture1"})
+        EXPECT_FALSE(run.session.module().drawing(p, s).empty()) << p;
+    run.set({{"Form33g.Text1", "2"}});
+    expectStop(run.prompter, run.press("Form33g.Command1"), "Forneça o número de uma barra da tabela de resultados.",
+               MessageKind::Warning, "Form33g.Text1");
+}
+
+// P-delta on the screen: near the sway load the iteration stops with its message and
+// the results of the last round stand; infill loaded far beyond its strength is
+// dropped with its message and the bare frame's results.
+TEST(Form33, PDeltaAndInfillMessagesKeepResults) {
+    BeamRun run = portal();
+    run.session.state().setOption("Form33d.Option1", true);
+    run.session.state().grid("Form33d.Grade2")[1][1] = "56000";  // 0.99 of the sway stiffness times the height
+    Outcome o = run.press("Command3");
+    EXPECT_TRUE(o.completed);
+    ASSERT_FALSE(run.prompter.messages().empty());
+    EXPECT_EQ(run.lastMessage(), txtframe::kPDelta);
+    EXPECT_EQ(run.report("Form33")[0], "Propriedades do concreto:");
+
+    BeamRun bare = portal();
+    bare.press("Command3");
+    BeamRun filled = portal();
+    filled.press("Form33i.Option2");
+    filled.set({{"Form33i.Text1", "3000"}, {"Form33i.Text2", "0.001"}, {"Form33i.Text4", "20"}});
+    o = filled.press("Command3");
+    EXPECT_TRUE(o.completed);
+    EXPECT_EQ(filled.lastMessage(), txtframe::kInfillLost);
+    EXPECT_EQ(filled.text("Form33e.Text1"), bare.text("Form33e.Text1"));
+}
+
+// Every box and cell of the frame with P-delta and infill on, given hostile texts:
+// each press ends in a result or a message, nothing reads "nan" or "inf".
+TEST(Form33, HostileTextsEndInAResultOrAMessage) {
+    const std::string hostile[] = {"", "abc", "1e308", "-0", "-1", "99999999", "0.0000001", "1" + std::string(308, '0')};
+    auto prepared = [] {
+        BeamRun run = portal({"yes", "yes"});
+        run.session.state().setOption("Form33d.Option1", true);
+        run.press("Form33i.Option2");
+        run.set({{"Form33i.Text1", "3000"}, {"Form33i.Text2", "3"}});
+        return run;
+    };
+    BeamRun base = prepared();
+    std::vector<std::pair<std::string, std::pair<int, int>>> places;
+    for (const char* box : {"Text1", "Text2", "Text3", "Text4", "Form33i.Text1", "Form33i.Text2", "Form33i.Text4"})
+        places.push_back({box, {-1, -1}});
+    for (const char* grid : {"Form33b.Grade1", "Form33b.Grade2", "Form33c.Grade1", "Form33c.Grade2", "Form33c.Grade3",
+                             "Form33d.Grade1", "Form33d.Grade2"})
+        for (int c = 1; c < static_cast<int>(base.session.state().grid(grid)[1].size()); ++c) places.push_back({grid, {1, c}});
+    for (const auto& [name, at] : places)
+        for (const std::string& text : hostile) {
+            SCOPED_TRACE(name + " = " + text);
+            BeamRun run = prepared();
+            if (at.first < 0) run.set({{name, text}});
+            else run.session.state().grid(name)[static_cast<std::size_t>(at.first)][static_cast<std::size_t>(at.second)] = text;
+            for (const char* command : {"Command3", "Command12", "Form33e.Command1", "Form33e.Command3"}) {
+                const std::size_t before = run.prompter.messages().size();
+                const Outcome o = run.press(command);
+                EXPECT_TRUE(o.completed || run.prompter.messages().size() > before) << command;
+            }
+            EXPECT_FALSE(anyNotFinite(run.session.state()));
+            for (const char* picture : {"Form33f.Picture1", "Form33g.Picture1", "Form33h.Picture3"})
+                EXPECT_TRUE(finitePicture(run.session.module().drawing(picture, run.session.state()))) << picture;
+        }
+}
