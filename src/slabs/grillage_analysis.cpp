@@ -105,8 +105,13 @@ GrillageResults analyseGrillage(const SlabPolygon& p, const GrillageMesh& m, con
         incidence.nodes.push_back(b.to + 1);
     }
     r.semiBandwidth = BandWidth(incidence, kDof);
-    if (r.semiBandwidth >= kGrillageBandLimit || nodes == 0) {
+    if (r.semiBandwidth >= kGrillageBandLimit) {
         r.status = GrillageStatus::BandTooWide;
+        return r;
+    }
+    // No bar at all: nothing carries the load.
+    if (m.bars.empty()) {
+        r.status = GrillageStatus::Singular;
         return r;
     }
 
@@ -117,8 +122,16 @@ GrillageResults analyseGrillage(const SlabPolygon& p, const GrillageMesh& m, con
 
     std::vector<NodeAxes> axes(static_cast<std::size_t>(nodes));
     std::vector<Restraint> restraints;
+    // A node that no bar reaches (the end of a chord too short to cross a column)
+    // takes no part: it is held so that it leaves no empty equation.
+    std::vector<int> reached(static_cast<std::size_t>(nodes), 0);
+    for (const MeshBar& b : m.bars) ++reached[b.from], ++reached[b.to];
     for (int i = 0; i < nodes; ++i) {
         const MeshNode& n = m.nodes[i];
+        if (!reached[i]) {
+            for (int dof = 1; dof <= kDof; ++dof) restraints.push_back({i + 1, dof});
+            continue;
+        }
         if (n.side < 0 || n.side >= static_cast<int>(p.sides.size())) continue;
         const SideSupport t = p.sides[static_cast<std::size_t>(n.side)];
         if (t == SideSupport::Free) continue;

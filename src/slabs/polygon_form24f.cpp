@@ -335,6 +335,13 @@ public:
         return {s.build(), v.build(), h.build(), j.build()};
     }
 
+    // The boxes, the fineness and the two tables of the outline; the result tables
+    // are made again by "CALCULAR".
+    std::vector<std::string> projectFields() const override {
+        return {"Form24f.Text1", "Form24f.Text2", "Form24f.Text3", "Form24f.Text4", "Form24f.Text5", "Form24f.Text7",
+                "Form24f.Text8", "Form24f.Text6", "Form24f.List1", kVertices, kSides};
+    }
+
     void load(FormState& state, const StartDefaults& defaults) const override {
         loadSlabDefaults(state, defaults);
         state.setVisible("Form24f.Frame4", false);

@@ -139,6 +139,12 @@ TEST(Grillage, UnsolvableSystems) {
     // Free all round: the slab moves as a body.
     const SlabPolygon loose{{{0, 0}, {4, 0}, {4, 3}, {0, 3}}, std::vector<SideSupport>(4, SideSupport::Free)};
     EXPECT_EQ(analyseGrillage(loose, generateMesh(loose, 5).mesh, {1, 1, 1}).status, GrillageStatus::Singular);
+    // A strip narrower than a cell everywhere leaves no chord, so no bar carries it.
+    const SlabPolygon sliver{{{0, 0}, {10, 9.9}, {10, 10}, {0, 0.1}}, std::vector<SideSupport>(4, SideSupport::Simple)};
+    const MeshResult empty = generateMesh(sliver, 4);
+    ASSERT_EQ(empty.status, MeshStatus::Ok);
+    EXPECT_TRUE(empty.mesh.bars.empty());
+    EXPECT_EQ(analyseGrillage(sliver, empty.mesh, {1, 1, 1}).status, GrillageStatus::Singular);
     // A strip of nodes along x, fixed at its two ends, with one more bar joining
     // nodes k apart: the band is 3 (k + 1) wide, 198 solves and 201 does not.
     for (const int k : {65, 66}) {
