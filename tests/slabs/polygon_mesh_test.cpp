@@ -73,14 +73,6 @@ TEST(PolygonMesh, DivisionsAcrossTheShorterSize) {
     }
 }
 
-TEST(PolygonMesh, RefusedOutlines) {
-    // The same square, clockwise.
-    EXPECT_EQ(generateMesh(polygon({{0, 0}, {0, 4}, {4, 4}, {4, 0}}), 4).status, MeshStatus::NotCounterClockwise);
-    EXPECT_EQ(generateMesh(polygon({{0, 0}, {4, 0}, {4, 4}, {4, 4 + 1e-11}, {0, 4}}), 4).status,
-              MeshStatus::RepeatedVertices);
-    EXPECT_EQ(generateMesh(polygon({{0, 0}, {4, 0}, {8, 0}}), 4).status, MeshStatus::NotCounterClockwise);
-}
-
 TEST(PolygonMesh, GridLineThroughAVertexAddsADivision) {
     // The vertex (4, 1.5) splits the right side and lies on the second row of 4
     // divisions: the generator starts again with 5 both ways, rows at 0.4 ... 3.6.
