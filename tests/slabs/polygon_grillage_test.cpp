@@ -125,6 +125,19 @@ TEST(Grillage, SquareTurnedAcrossTheBars) {
     }
 }
 
+// A slab fixed on one side and free on the others bends as a set of cantilever
+// strips, tip deflection p L^4 / (8 D), whatever the torsion stiffness (the load of
+// the cross bars reaches the strips at their nodes).
+TEST(Grillage, CantileverSlabIsItsStrips) {
+    const SlabPolygon p{{{0, 0}, {4, 0}, {4, 2}, {0, 2}},
+                        {SideSupport::Free, SideSupport::Free, SideSupport::Free, SideSupport::Fixed}};
+    for (const double ratio : {1.0, 1e-7})
+        for (const int n : {6, 20}) {
+            const GrillageResults r = analyseGrillage(p, generateMesh(p, n).mesh, {1, ratio, 1});
+            EXPECT_NEAR(r.wmax / (std::pow(4, 4) / 8), 1, n == 6 ? 0.003 : 0.0005) << ratio << " " << n;
+        }
+}
+
 // Every side's mean reaction times its length, summed, is the load of the slab,
 // whatever the outline, the supports and the mesh.
 TEST(Grillage, ReactionsCarryTheWholeLoad) {
