@@ -43,6 +43,9 @@ TEST(Form24f, GeneratorChecksInOrder) {
     const Rows repeated = {{"1", "0", "0"}, {"2", "4", "0"}, {"3", "4", "4"}, {"4", "4", "4"}};
     const Case cases[] = {
         {{{"List1", ""}}, kSquare, "Escolha uma discretização.", "Form24f.List1"},
+        {{{"Text6", "2"}}, kSquare, "O número de vértices da poligonal deve ser maior ou igual a 3.", "Form24f.Text6"},
+        {{{"Text6", "30"}}, kSquare, "Este programa está limitado a lajes poligonais com um máximo de 29 vértices.",
+         "Form24f.Text6"},
         {{{"List1", "Refinar mais!"}}, kSquare,
          "É necessário escolher uma discretização inicial antes de refinar a malha.", "Form24f.List1"},
         {{}, clockwise, "Erro! Verifique as coordenadas dos vértices da poligonal.", "Form24f.Command4"},
@@ -63,17 +66,6 @@ TEST(Form24f, GeneratorChecksInOrder) {
         EXPECT_EQ(o.focus, c.focus);
         EXPECT_FALSE(run.session.state().enabled("Form24f.Command1"));
     }
-    // The vertex count, at both buttons that read it.
-    for (const auto& [count, message] : {std::pair{"2", "O número de vértices da poligonal deve ser maior ou igual a 3."},
-                                         {"30", "Este programa está limitado a lajes poligonais com um máximo de 29 vértices."}})
-        for (const char* button : {"Command4", "Command7"}) {
-            PolygonRun run;
-            run.set({{"Text6", count}});
-            const Outcome o = run.press(button);
-            EXPECT_FALSE(o.completed);
-            EXPECT_EQ(run.lastMessage(), message);
-            EXPECT_EQ(o.focus, "Form24f.Text6");
-        }
     // A side type out of 0 ... 2 keeps the table open.
     PolygonRun sides(kSquare, "3");
     sides.press("Command4");
@@ -144,15 +136,9 @@ TEST(Form24f, ResultsReportAndPictures) {
     EXPECT_EQ(s.cell("Form24f.Grade1", 1, 1), s.cell("Form24f.Grade1", 2, 1));
     EXPECT_NEAR(run.number("Text10"), 3 * run.number("Text9"), 0.02);
     const std::vector<std::string> lines = run.report("Form24f");
-    const std::vector<std::string> expected = {"Propriedades do concreto:", "Cargas:", "Rigidez à torção relativa J/J1= 1",
-                                               "Coordenadas dos vértices da laje (em metros):", "Condições de contorno:",
-                                               "RESULTADOS:", "Reações de apoio (em kN/m):"};
-    std::size_t at = 0;
-    for (const std::string& line : lines)
-        if (at < expected.size() && line == expected[at]) ++at;
-    EXPECT_EQ(at, expected.size());
-    EXPECT_NE(std::find(lines.begin(), lines.end(), "Flecha final máxima: Wtot= " + run.text("Text10") + " mm"),
-              lines.end());
+    for (const std::string& line : std::vector<std::string>{"Rigidez à torção relativa J/J1= 1", "Lado 4        apoio simples",
+                                    "Flecha final máxima: Wtot= " + run.text("Text10") + " mm"})
+        EXPECT_NE(std::find(lines.begin(), lines.end(), line), lines.end()) << line;
     EXPECT_FALSE(run.session.module().drawing("Form24h.Picture1", s).empty());
     EXPECT_FALSE(run.session.module().drawing("Form24j.Picture1", s).empty());
 }

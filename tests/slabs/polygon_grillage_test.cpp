@@ -14,27 +14,16 @@ namespace {
 
 using testing::navierUniform;
 
-SlabPolygon rectangle(double a, double b, SideSupport t) {
-    SlabPolygon p;
-    p.vertices = {{0, 0}, {a, 0}, {a, b}, {0, b}};
-    p.sides.assign(4, t);
-    return p;
-}
+SlabPolygon rectangle(double a, double b, SideSupport t) { return {{{0, 0}, {a, 0}, {a, b}, {0, b}}, {4, t}}; }
 
+// A unit plate under a unit load.
 struct GrillageRun {
+    GrillageRun(const SlabPolygon& p, int n) : mesh(generateMesh(p, n).mesh), r(analyseGrillage(p, mesh, {1, 1, 1})) {
+        EXPECT_EQ(r.status, GrillageStatus::Ok);
+    }
     GrillageMesh mesh;
     GrillageResults r;
 };
-
-GrillageRun run(const SlabPolygon& p, int divisions, double torsion = 1) {
-    GrillageRun out;
-    const MeshResult m = generateMesh(p, divisions);
-    EXPECT_EQ(m.status, MeshStatus::Ok);
-    out.mesh = m.mesh;
-    out.r = analyseGrillage(p, m.mesh, {1, torsion, 1});
-    EXPECT_EQ(out.r.status, GrillageStatus::Ok);
-    return out;
-}
 
 // The plate a grillage converges to: bending stiffness D both ways, no Poisson
 // coupling, twist stiffness H = (1 - nu) D J/J1 (Huber's orthotropic plate), simply
@@ -69,7 +58,7 @@ TEST(Grillage, SimplySupportedRectanglesConvergeTowardsThePlate) {
         const double a = 4, b = 4 * ratio;
         double coarse = 0;
         for (const Level& level : levels) {
-            const GrillageRun g = run(rectangle(a, b, SideSupport::Simple), level.n);
+            const GrillageRun g(rectangle(a, b, SideSupport::Simple), level.n);
             std::size_t c = 0;
             for (std::size_t i = 0; i < g.mesh.nodes.size(); ++i)
                 if (std::hypot(g.mesh.nodes[i].at.x - a / 2, g.mesh.nodes[i].at.y - b / 2) <
@@ -97,7 +86,7 @@ TEST(Grillage, SimplySupportedRectanglesConvergeTowardsThePlate) {
 TEST(Grillage, ClampedSquareAgainstThePlateTable) {
     double previous = 0;
     for (const int n : {4, 6, 8, 12, 16, 20}) {
-        const double w = run(rectangle(1, 1, SideSupport::Fixed), n).r.wmax;
+        const double w = GrillageRun(rectangle(1, 1, SideSupport::Fixed), n).r.wmax;
         EXPECT_GT(w, previous) << n;
         if (n >= 6) EXPECT_NEAR(w / 0.00126, 1, n == 6 ? 0.035 : 0.05) << n;
         previous = w;

