@@ -288,6 +288,21 @@ bool slabShots(MorveApp& app, const QString& folder) {
         press(*host, "Command1");
         ok &= saveScreen(*host, "Form24b", folder, "form24b.png");
     }
+    if (ModuleHost* host = open(app, "Form24f")) {
+        fill(*host, {{"Text4", "5"}, {"Text5", "2"}, {"Text7", "12"}, {"Text8", "1"}, {"Text6", "6"}, {"List1", "Fina"}});
+        press(*host, "Command4");
+        fillRows(*host, "Form24g.Grade1", {{"1", "0", "0"}, {"2", "6", "0"}, {"3", "6", "3"}, {"4", "3", "3"}, {"5", "3", "5"}, {"6", "0", "5"}});
+        fillRows(*host, "Form24g.Grade2", {{"1", "0"}, {"2", "0"}, {"3", "1"}, {"4", "1"}, {"5", "0"}, {"6", "2"}});
+        ok &= saveScreen(*host, "Form24g", folder, "form24g.png");
+        press(*host, "Form24g.Command2");
+        press(*host, "Command7");
+        ok &= saveScreen(*host, "Form24h", folder, "form24h.png");
+        press(*host, "Form24h.Command1");
+        press(*host, "Command1");
+        ok &= saveScreen(*host, "Form24f", folder, "form24f.png");
+        press(*host, "Command10");
+        ok &= saveScreen(*host, "Form24j", folder, "form24j.png");
+    }
     setGuiPrompter(nullptr);
     app.returnToMenu();
     settle();
