@@ -82,7 +82,9 @@ void ModuleSession::apply(const Outcome& outcome) {
             case EffectKind::HideControl: state_.setVisible(e.target, false); break;
             case EffectKind::EnableScreen:
             case EffectKind::DisableScreen:
-            case EffectKind::StartReport: break;  // the front end's windows
+            case EffectKind::StartReport:
+            case EffectKind::SavePicture:
+            case EffectKind::PrintPicture: break;  // the front end's windows
         }
     }
 }
@@ -103,6 +105,8 @@ const char* effectKindName(EffectKind kind) {
         case EffectKind::ShowControl: return "showControl";
         case EffectKind::HideControl: return "hideControl";
         case EffectKind::StartReport: return "report";
+        case EffectKind::SavePicture: return "savePicture";
+        case EffectKind::PrintPicture: return "printPicture";
     }
     return "";
 }
