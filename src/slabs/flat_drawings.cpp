@@ -113,7 +113,7 @@ Drawing flatSurfaceDrawing(const FlatResults& r, FlatQuantity quantity, double l
 Drawing flatFloorDrawing(const FlatSlab& slab, const std::vector<double>& loads) {
     // Metres, y up the page as the floor is drawn on a plan.
     const double lx = slab.a / 100, ly = slab.b / 100;
-    const double margin = 0.12 * std::max(lx, ly);
+    const double margin = 0.2 * std::max(lx, ly);
     Drawing g;
     g.left = -margin;
     g.top = -margin;
@@ -121,9 +121,9 @@ Drawing flatFloorDrawing(const FlatSlab& slab, const std::vector<double>& loads)
     g.bottom = ly + margin;
     auto plan = [&](double x, double y) { return Point{x, ly - y}; };
     g.rectangle(plan(0, ly), plan(lx, 0), colours::black, 3);
-    const double off = 0.5 * margin;
-    g.dimension({0, ly + off}, {lx, ly + off}, "lx = " + formatPlain(lx) + " m", 0, 0.35 * margin);
-    g.dimension({-off, 0}, {-off, ly}, "ly = " + formatPlain(ly) + " m", 0, 0);
+    const double off = 0.3 * margin;
+    g.dimension({0, ly + off}, {lx, ly + off}, "lx = " + formatPlain(lx) + " m", 0, 0.2 * margin);
+    g.dimension({-off, 0}, {-off, ly}, "ly = " + formatPlain(ly) + " m", -0.4 * margin, 0);
     for (std::size_t k = 0; k < slab.columns.size(); ++k) {
         const FlatColumn& c = slab.columns[k];
         const double x = c.x / 100, y = c.y / 100, hx = c.hx / 200, hy = c.hy / 200;
