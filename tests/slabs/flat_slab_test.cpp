@@ -154,6 +154,9 @@ TEST(Form40, ButtonsCheckInOrder) {
         {"outside", cell("Form40b.Grade1", 2, 2, "6.5"), {}, "Command3", "Há um ou mais pilares fora da laje. Revise as coordenadas dos pilares.", ""},
         {"same place", cell("Form40b.Grade1", 2, 1, "2.005"), {}, "Command3", "Há um ou mais pilares na mesma posição. Revise as coordenadas dos pilares.", ""},
         {"null side", cell("Form40b.Grade2", 1, 2, ""), {}, "Command3", "Há um ou mais pilares com dimensão nula. Revise as dimensões dos pilares.", ""},
+        // On the edge beam passes the check of the coordinates but the slab cannot
+        // sink there: nothing is left for the column to carry.
+        {"on the support", cell("Form40b.Grade1", 1, 1, "0"), {}, "Command3", "Matriz singular. Revise os dados.", ""},
         {"small side", cell("Form40b.Grade2", 2, 1, "15"), {"ok"}, "Command3", "Segundo a NBR-6118, a menor dimensão dos pilares é 19 cm.   Clique em OK para corrigir as dimensões dos pilares. Clique em CANCELAR para continuar.", "Form40.Command1", MessageKind::OkCancel},
     };
     for (const auto& c : cases) {
