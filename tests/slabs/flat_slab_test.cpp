@@ -218,6 +218,13 @@ TEST(Form40, CentralColumnEndToEnd) {
     }
     EXPECT_EQ(run.press("Form40d.Command15").effects,
               (std::vector<ScreenEffect>{{EffectKind::SavePicture, "Form40d.Picture1"}}));
+    EXPECT_EQ(run.press("Form40d.Command1").effects,
+              (std::vector<ScreenEffect>{{EffectKind::PrintPicture, "Form40d.Picture1"}}));
+    // New column data close the diagrams until the next "CALCULAR".
+    run.press("Form40d.Command2");
+    run.press("Command1");
+    run.press("Form40b.Command1");
+    EXPECT_FALSE(s.enabled("Form40.Command2"));
     EXPECT_FALSE(run.session.module().drawing("Form40c.Picture1", s).empty());
 }
 
