@@ -110,7 +110,9 @@ void ModuleSession::apply(const Outcome& outcome) {
             case EffectKind::DisableScreen:
                 if (!report && !contains(disabledScreens_, e.target)) disabledScreens_.push_back(e.target);
                 break;
-            case EffectKind::StartReport: break;  // the front end's report window
+            case EffectKind::StartReport:
+            case EffectKind::SavePicture:
+            case EffectKind::PrintPicture: break;  // the front end's windows
         }
     }
 }
@@ -129,6 +131,8 @@ const char* effectKindName(EffectKind kind) {
         case EffectKind::ShowControl: return "showControl";
         case EffectKind::HideControl: return "hideControl";
         case EffectKind::StartReport: return "report";
+        case EffectKind::SavePicture: return "savePicture";
+        case EffectKind::PrintPicture: return "printPicture";
     }
     return "";
 }

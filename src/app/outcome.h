@@ -17,6 +17,8 @@ enum class EffectKind {
     ShowControl,    // a control or a frame
     HideControl,
     StartReport,    // target: the report key; the report panel opens for it
+    SavePicture,    // target "Form40d.Picture1": its drawing goes to a picture file
+    PrintPicture,   // the same drawing on one printed page
 };
 
 struct ScreenEffect {

@@ -4,7 +4,9 @@
 
 #include "app/catalogue.h"
 #include "gui/gui_prompter.h"
+#include "gui/picture_views.h"
 #include "gui/project_dialogs.h"
+#include "gui/save_picture_dialog.h"
 #include "gui/screen_window.h"
 #include "gui/window_places.h"
 
@@ -144,6 +146,10 @@ void ModuleHost::applyScreenEffects(const Outcome& outcome, ScreenWindow* caller
             case EffectKind::StartReport:
                 shell_.startReport(t, caller ? caller : mainWindow());
                 break;
+            case EffectKind::SavePicture:
+            case EffectKind::PrintPicture:
+                pictureOut(e, caller);
+                break;
             default: break;  // controls: already in the state, shown by refresh
         }
     }
@@ -155,6 +161,21 @@ void ModuleHost::applyScreenEffects(const Outcome& outcome, ScreenWindow* caller
         session_.apply(Outcome::done().then(EffectKind::ShowScreen, session_.info().key));
         showScreen(session_.info().key);
     }
+}
+
+void ModuleHost::pictureOut(const ScreenEffect& e, ScreenWindow* caller) {
+    const Drawing drawing = module_.drawing(e.target, session_.state());
+    QWidget* parent = caller ? static_cast<QWidget*>(caller) : mainWindow();
+    if (e.kind == EffectKind::PrintPicture) {
+        printPicture(parent, drawing);
+        return;
+    }
+    // The file gets the picture at the size it has on the screen.
+    QSize size(640, 480);
+    if (ScreenWindow* w = window(screenOf(e.target)))
+        if (QWidget* view = w->control(e.target.substr(e.target.find('.') + 1))) size = view->size();
+    const std::string failed = savePicture(parent, drawing, size);
+    if (!failed.empty()) guiPrompter().warn(failed);
 }
 
 void ModuleHost::companionClosed(const std::string& screen) {

@@ -61,6 +61,8 @@ private:
     ScreenWindow* ensureWindow(const std::string& screen);
     const ScreenDecl* declared(const std::string& screen) const;
     void applyScreenEffects(const Outcome& outcome, ScreenWindow* caller);
+    // A picture to a file through the save dialog, or to the printer.
+    void pictureOut(const ScreenEffect& e, ScreenWindow* caller);
     void refresh(ScreenWindow* w);
     void showScreen(const std::string& screen);
     void dropWindow(const std::string& screen);

@@ -2,6 +2,8 @@
 
 #include <QChart>
 #include <QChartView>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QLineSeries>
 #include <QPainter>
 #include <QScatterSeries>
@@ -11,6 +13,8 @@
 #include <cmath>
 #include <tuple>
 
+#include "gui/gui_prompter.h"
+#include "gui/save_picture_dialog.h"
 #include "render/drawing_painter.h"
 
 namespace morve {
@@ -53,6 +57,20 @@ void DrawingView::paintEvent(QPaintEvent*) {
     painter.setPen(QColor(160, 160, 160));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
     paintDrawing(painter, drawing_, QRectF(rect()).adjusted(4, 4, -4, -4));
+}
+
+void DrawingView::contextMenuEvent(QContextMenuEvent* event) {
+    if (drawing_.empty()) return;
+    QMenu menu(this);
+    QAction* save = menu.addAction(QStringLiteral("Salvar desenho..."));
+    QAction* print = menu.addAction(QStringLiteral("Imprimir desenho..."));
+    QAction* chosen = menu.exec(event->globalPos());
+    if (chosen == save) {
+        const std::string failed = savePicture(this, drawing_, size());
+        if (!failed.empty()) guiPrompter().warn(failed);
+    } else if (chosen == print) {
+        printPicture(this, drawing_);
+    }
 }
 
 ChartBox::ChartBox(QSize size, QWidget* parent) : QWidget(parent), view_(new QChartView(this)) {

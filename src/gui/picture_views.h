@@ -18,6 +18,9 @@ public:
 
 protected:
     void paintEvent(QPaintEvent*) override;
+    // "Salvar desenho..." and "Imprimir desenho...": every picture of the program
+    // goes to a file or to paper the way the flat slab's diagrams do.
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     Drawing drawing_;

@@ -228,6 +228,35 @@ bool continuousShots(MorveApp& app, const QString& folder) {
     return ok;
 }
 
+// The flat slab of the examples: its columns, the floor with the loads, the four surfaces.
+bool flatSlabShots(MorveApp& app, const QString& folder) {
+    ScriptedPrompter answers;
+    setGuiPrompter(&answers);
+    bool ok = true;
+    if (ModuleHost* host = open(app, "Form40")) {
+        fill(*host, {{"Text1", "25"}, {"Text2", "28517"}, {"Text4", "20"}, {"Text5", "7.5"}, {"Text6", "9"},
+                     {"Text7", "4"}, {"Text8", "6.5"}, {"Text9", "3"}});
+        ok &= saveScreen(*host, "Form40", folder, "form40.png");
+        press(*host, "Command1");
+        fillRows(*host, "Form40b.Grade1", {{"1", "2.5", "3"}, {"2", "5", "3"}, {"3", "2.5", "6"}, {"4", "5", "6"}});
+        fillRows(*host, "Form40b.Grade2", {{"1", "30", "40"}, {"2", "30", "40"}, {"3", "30", "40"}, {"4", "30", "40"}});
+        ok &= saveScreen(*host, "Form40b", folder, "form40b.png");
+        press(*host, "Form40b.Command1");
+        press(*host, "Command3");
+        ok &= saveScreen(*host, "Form40c", folder, "form40c.png");
+        press(*host, "Form40c.Command1");
+        press(*host, "Command2");
+        const char* surfaces[][2] = {{"Form40d.Command3", "form40d-mx.png"}, {"Form40d.Command4", "form40d-my.png"},
+                                     {"Form40d.Command5", "form40d-mxy.png"}, {"Form40d.Command6", "form40d-flechas.png"}};
+        for (const auto& [command, name] : surfaces) {
+            press(*host, command);
+            ok &= saveScreen(*host, "Form40d", folder, name);
+        }
+    }
+    setGuiPrompter(nullptr);
+    return ok;
+}
+
 // A design and a verification of a rectangular column, with the section, the
 // interaction diagram, and the design situations of a corner column.
 bool columnShots(MorveApp& app, const QString& folder) {
@@ -397,6 +426,7 @@ int takeScreenshots(const QString& folder) {
     ok &= continuousShots(app, folder);
     ok &= columnShots(app, folder);
     ok &= slabShots(app, folder);
+    ok &= flatSlabShots(app, folder);
     return ok ? 0 : 1;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
-// A module's drawing written to a picture file, by the file's extension: PNG (or
-// any raster format Qt writes) on a white ground, or SVG as vectors.
+// A module's drawing written to a picture file, by the file's extension: GIF (the
+// program's own picture files), PNG or any raster format Qt writes, on a white
+// ground, or SVG as vectors.
 #include <QSize>
 #include <QString>
 

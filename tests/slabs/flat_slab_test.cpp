@@ -1,0 +1,287 @@
+// The flat slab against plate theory worked out apart (published coefficients of
+// the simply supported plate, the long Navier series of the test's own), its
+// equilibrium, the symmetry of symmetric floors, and Form40 as a user drives it.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "../beams/beam_session.h"
+#include "app/numbers.h"
+#include "../stop_expectations.h"
+#include "plate_solutions.h"
+#include "slabs/flat_slab.h"
+
+using namespace morve;
+using morve::testing::BeamRun;
+using morve::testing::navierPointDeflection;
+using morve::testing::navierUniform;
+
+namespace {
+
+// Unit load and unit rigidity, so that results read as plate coefficients; the
+// deflection surface is in mm of a slab in cm, ten times the series' value.
+FlatSlab unitSlab(double a, double b, std::vector<FlatColumn> columns = {}) {
+    return FlatSlab{a, b, 1, 1, 1, std::move(columns)};
+}
+
+double total(const FlatResults& r) {
+    double sum = r.r1 + r.r2 + r.r3 + r.r4;
+    for (double p : r.columnLoads) sum += p;
+    return sum;
+}
+
+TEST(FlatSeries, PlainPlateMatchesThePublishedCoefficients) {
+    // Deflection q a^4 / D of the simply supported plate at its centre (the same for
+    // every Poisson's ratio), and the corner twisting moment, half the corner force
+    // 0.065 q a^2 of the square at nu = 0.3, carried to nu = 0.2 by (1 - nu).
+    const struct {
+        double a, b, alpha;
+    } plates[] = {{600, 600, 0.00406}, {400, 800, 0.01013}, {500, 750, 0.00772}};
+    for (const auto& p : plates) {
+        SCOPED_TRACE(p.b / p.a);
+        const FlatResults r = analyseFlatSlab(unitSlab(p.a, p.b));
+        ASSERT_EQ(r.status, FlatStatus::Done);
+        const double a4 = std::pow(p.a, 4);
+        EXPECT_NEAR(r.w.at[10][10] / 10 / a4, p.alpha, 0.003 * p.alpha);
+        EXPECT_DOUBLE_EQ(r.w.max, r.w.at[10][10]);
+        const auto centre = navierUniform(p.a, p.b, p.a / 2, p.b / 2, 0.2);
+        EXPECT_NEAR(r.mx.at[10][10], centre.mx, 0.01 * centre.mx);
+        EXPECT_NEAR(r.my.at[10][10], centre.my, 0.01 * centre.my);
+        // Each pair of opposite edges carries the same, and all four the load.
+        EXPECT_NEAR(r.r1, r.r2, 1e-6 * r.r1);
+        EXPECT_NEAR(r.r3, r.r4, 1e-6 * r.r3);
+        EXPECT_NEAR(total(r), p.a * p.b, 1e-9 * p.a * p.b);
+        // The summed shears miss only what the cut series leaves out.
+        EXPECT_NEAR(r.edgeScale, 1, 0.05);
+    }
+    const FlatResults square = analyseFlatSlab(unitSlab(600, 600));
+    EXPECT_NEAR(square.mxy.at[0][0], -0.0325 * 0.8 / 0.7 * 360000, 0.02 * 0.0372 * 360000);
+    EXPECT_NEAR(square.r1, 90000, 1e-6);
+}
+
+TEST(FlatSeries, ColumnsCarryWhatAPointSupportWould) {
+    // Square plate, one central column: a point support takes w_q / w_P of the load,
+    // 0.00406 / 0.01160 q a^2 by the published coefficients; a 30 cm column and
+    // the cut series keep within a few per cent of it.
+    const FlatResults central = analyseFlatSlab(unitSlab(600, 600, {{300, 300, 30, 30}}));
+    ASSERT_EQ(central.status, FlatStatus::Done);
+    ASSERT_EQ(central.columnLoads.size(), 1u);
+    const double point = 0.00406 / 0.01160 * 360000;
+    EXPECT_NEAR(central.columnLoads[0], point, 0.04 * point);
+    const FlatResults plain = analyseFlatSlab(unitSlab(600, 600));
+    EXPECT_LT(std::abs(central.w.at[10][10]), 0.02 * plain.w.at[10][10]);
+    // Hogging over the column.
+    EXPECT_LT(central.mx.at[10][10], 0);
+    EXPECT_NEAR(total(central), 360000, 1e-6);
+
+    // Off the centre lines the column is held by superposition of the long series
+    // of the test: the uniform load's deflection there over a unit point load's.
+    const double x = 150, y = 300;
+    const double wq = navierUniform(600, 600, x, y, 0.2).w;
+    const double wp = navierPointDeflection(600, 600, x, y, x, y, 121);
+    const FlatResults side = analyseFlatSlab(unitSlab(600, 600, {{x, y, 30, 30}}));
+    EXPECT_NEAR(side.columnLoads[0], wq / wp, 0.05 * wq / wp);
+    // The slab stays up under the column and sags in the mirror point: an
+    // unsymmetric floor is not read as a symmetric one.
+    EXPECT_LT(std::abs(side.w.at[5][10]), 0.05 * side.w.at[15][10]);
+    EXPECT_LT(side.r3, side.r4);
+    EXPECT_NEAR(side.r1, side.r2, 1e-6 * side.r1);
+    EXPECT_NEAR(total(side), 360000, 1e-6);
+}
+
+TEST(FlatSeries, SymmetricFloorsGiveSymmetricLoads) {
+    // Four columns at the thirds of a 6 by 9 m floor, two sections turned: every
+    // column carries the same by symmetry about both centre lines.
+    const double a = 600, b = 900;
+    const FlatResults r = analyseFlatSlab(unitSlab(a, b,
+        {{200, 300, 30, 40}, {400, 300, 30, 40}, {200, 600, 30, 40}, {400, 600, 30, 40}}));
+    ASSERT_EQ(r.status, FlatStatus::Done);
+    for (double p : r.columnLoads) EXPECT_NEAR(p, r.columnLoads[0], 1e-6 * r.columnLoads[0]);
+    EXPECT_NEAR(r.r1, r.r2, 1e-6 * r.r1);
+    EXPECT_NEAR(r.r3, r.r4, 1e-6 * r.r3);
+    EXPECT_NEAR(total(r), a * b, 1e-6 * a * b);
+    for (int i = 0; i < kFlatSamples; ++i)
+        for (int j = 0; j < kFlatSamples; ++j) {
+            EXPECT_NEAR(r.w.at[i][j], r.w.at[20 - i][20 - j], 1e-9 * r.w.max);
+            EXPECT_NEAR(r.mxy.at[i][j], -r.mxy.at[20 - i][j], 1e-9 * std::abs(r.mxy.min));
+        }
+}
+
+// Form40 filled as a user does: 6 by 6 m, 20 cm, g = 5, q = 3, with `columns`
+// typed in the column tables (metres and cm).
+BeamRun typedSlab(std::vector<std::array<const char*, 4>> columns, std::vector<std::string> answers = {}) {
+    BeamRun run("Form40", std::move(answers));
+    run.set({{"Text4", "20"}, {"Text5", "6"}, {"Text6", "6"}, {"Text8", "5"}, {"Text9", "3"},
+             {"Text7", std::to_string(columns.size())}});
+    if (columns.empty()) return run;
+    run.press("Command1");
+    FormState& s = run.session.state();
+    for (std::size_t k = 0; k < columns.size(); ++k) {
+        const int r = static_cast<int>(k) + 1;
+        s.grid("Form40b.Grade1")[r] = {std::to_string(r), columns[k][0], columns[k][1]};
+        s.grid("Form40b.Grade2")[r] = {std::to_string(r), columns[k][2], columns[k][3]};
+    }
+    run.press("Form40b.Command1");
+    return run;
+}
+
+TEST(Form40, ButtonsCheckInOrder) {
+    using Edit = std::function<void(FormState&)>;
+    auto box = [](const char* name, const char* text) { return [=](FormState& s) { s.setText(name, text); }; };
+    auto cell = [](const char* grid, int r, int c, const char* text) {
+        return [=](FormState& s) { s.grid(grid)[r][c] = text; };
+    };
+    const std::string ask = "O módulo secante do concreto está fora dos limites razoáveis. VOCÊ QUER CORRIGIR O MÓDULO?";
+    const struct {
+        const char* what;
+        Edit edit;
+        std::vector<std::string> answers;
+        std::string command, text, focus;
+        MessageKind kind = MessageKind::Warning;
+    } cases[] = {
+        {"no columns", box("Text7", "0"), {}, "Command1", "Não há pilares no pavimento. A laje será calculada como uma laje retangular simplesmente apoiada nos quatro lados. Clique no botão CALCULAR ou forneça o número de pilares.", "Form40.Text7"},
+        {"41 columns", box("Text7", "41"), {}, "Command1", "Este programa é limitado ao máximo de 40 pilares.", "Form40.Text7"},
+        {"no lx", box("Text5", "abc"), {}, "Command1", "Forneça um valor positivo para o vão lx.", "Form40.Text5"},
+        {"no ly", box("Text6", "-0"), {}, "Command1", "Forneça um valor positivo para o vão ly.", "Form40.Text6"},
+        {"on the edge", cell("Form40b.Grade1", 1, 1, "0"), {}, "Form40b.Command1", "Há um ou mais pilares fora da laje. Todos os pilares devem ser internos. Revise as coordenadas dos pilares.", ""},
+        {"Ecs", box("Text2", "50000"), {"yes"}, "Command3", ask, "Form40.Text2", MessageKind::YesNo},
+        {"no h", box("Text4", ""), {}, "Command3", "Forneça um valor positivo para a espessura da laje.", "Form40.Text4"},
+        {"thin", box("Text4", "15"), {"ok"}, "Command3", "Segundo a NBR-6118, a espessura mínima das lajes lisas é 16 cm.   Clique em OK para corrigir a espessura. Clique em CANCELAR para continuar.", "Form40.Text4", MessageKind::OkCancel},
+        {"no g", box("Text8", "0"), {}, "Command3", "Forneça um valor positivo para a carga permanente.", "Form40.Text8"},
+        {"no q", box("Text9", "0"), {}, "Command3", "Forneça um valor positivo para a carga acidental.", "Form40.Text9"},
+        {"count", box("Text7", "3"), {}, "Command3", "Você alterou o número de pilares. Clique no botão 'Dados dos pilares' para atualização dos dados.", "Form40.Command1"},
+        {"outside", cell("Form40b.Grade1", 2, 2, "6.5"), {}, "Command3", "Há um ou mais pilares fora da laje. Revise as coordenadas dos pilares.", ""},
+        {"same place", cell("Form40b.Grade1", 2, 1, "2.005"), {}, "Command3", "Há um ou mais pilares na mesma posição. Revise as coordenadas dos pilares.", ""},
+        {"null side", cell("Form40b.Grade2", 1, 2, ""), {}, "Command3", "Há um ou mais pilares com dimensão nula. Revise as dimensões dos pilares.", ""},
+        // On the edge beam passes the check of the coordinates but the slab cannot
+        // sink there: nothing is left for the column to carry.
+        {"on the support", cell("Form40b.Grade1", 1, 1, "0"), {}, "Command3", "Matriz singular. Revise os dados.", ""},
+        {"small side", cell("Form40b.Grade2", 2, 1, "15"), {"ok"}, "Command3", "Segundo a NBR-6118, a menor dimensão dos pilares é 19 cm.   Clique em OK para corrigir as dimensões dos pilares. Clique em CANCELAR para continuar.", "Form40.Command1", MessageKind::OkCancel},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        BeamRun run = typedSlab({{"2", "3", "30", "30"}, {"2.5", "3", "30", "30"}}, c.answers);
+        c.edit(run.session.state());
+        expectStop(run.prompter, run.press(c.command), c.text, c.kind, c.focus);
+    }
+    // Cancel goes on past a thin slab; a slab without columns runs.
+    BeamRun thin = typedSlab({}, {"cancel"});
+    thin.set({{"Text4", "15"}});
+    EXPECT_TRUE(thin.press("Command3").completed);
+    EXPECT_EQ(thin.prompter.messages().size(), 1u);
+    // The diagrams wait for a calculation.
+    BeamRun early = typedSlab({});
+    expectStop(early.prompter, early.press("Command2"), "Clique no botão 'CALCULAR' para resolver a estrutura.",
+               MessageKind::Warning, "Form40.Command3");
+}
+
+TEST(Form40, CentralColumnEndToEnd) {
+    BeamRun run = typedSlab({{"3", "3", "40", "40"}});
+    const Outcome o = run.press("Command3");
+    ASSERT_TRUE(o.completed) << run.lastMessage();
+    EXPECT_TRUE(run.session.screenShown("Form40c"));
+    const FormState& s = run.session.state();
+    // About 0.35 q a^2 on the column (8 kN/m2 on 6 m), the rest shared by the edges.
+    const double column = s.cellNumber("Form40c.Grade1", 1, 1);
+    EXPECT_NEAR(column, 0.35 * 8 * 36, 0.05 * 0.35 * 8 * 36);
+    double edges = 0;
+    for (const char* box : {"Form40c.Text1", "Form40c.Text2", "Form40c.Text3", "Form40c.Text4"}) {
+        EXPECT_EQ(s.text(box), s.text("Form40c.Text1"));
+        edges += s.number(box);
+    }
+    EXPECT_NEAR(edges + column, 288, 0.03);
+
+    const std::vector<std::string> report = run.report("Form40");
+    for (const std::string& line : std::vector<std::string>{"Espessura: h= 20 cm", "Vãos: lx= 6 m                    ly= 6 m",
+                                   "Pilar= 1     X (m)= 3            Y (m)= 3",
+                                   "Pilar= 1     Carga= " + s.cell("Form40c.Grade1", 1, 1) + " kN",
+                                   "Em x=lx:     R4= " + s.text("Form40c.Text4") + " kN",
+                                   "Momentos fletores, torçores e flechas: imprimir ou salvar gráficos"})
+        EXPECT_NE(std::find(report.begin(), report.end(), line), report.end()) << line;
+
+    // The four surfaces on one picture, each with its title; "&Salvar" hands the
+    // picture to the front end.
+    ASSERT_TRUE(run.press("Command2").completed);
+    const struct {
+        const char* command;
+        const char* title;
+    } surfaces[] = {{"Form40d.Command3", "MOMENTOS FLETORES SEGUNDO A DIREÇÃO X"},
+                    {"Form40d.Command4", "MOMENTOS FLETORES SEGUNDO A DIREÇÃO Y"},
+                    {"Form40d.Command5", "MOMENTOS TORÇORES"},
+                    {"Form40d.Command6", "FLECHAS DA LAJE"}};
+    for (const auto& surface : surfaces) {
+        run.press(surface.command);
+        const Drawing d = run.session.module().drawing("Form40d.Picture1", s);
+        ASSERT_FALSE(d.empty());
+        EXPECT_EQ(std::get<Label>(d.shapes[0].geometry).text, surface.title);
+    }
+    EXPECT_EQ(run.press("Form40d.Command15").effects,
+              (std::vector<ScreenEffect>{{EffectKind::SavePicture, "Form40d.Picture1"}}));
+    EXPECT_EQ(run.press("Form40d.Command1").effects,
+              (std::vector<ScreenEffect>{{EffectKind::PrintPicture, "Form40d.Picture1"}}));
+    // New column data close the diagrams until the next "CALCULAR".
+    run.press("Form40d.Command2");
+    run.press("Command1");
+    run.press("Form40b.Command1");
+    EXPECT_FALSE(s.enabled("Form40.Command2"));
+    EXPECT_FALSE(run.session.module().drawing("Form40c.Picture1", s).empty());
+}
+
+TEST(Form40, DeflectionInMillimetresOfTheLongTerm) {
+    // No column: 0.00406 pqp a^4 / D with the creep modulus Ecs / (1 + phi).
+    BeamRun run = typedSlab({});
+    ASSERT_TRUE(run.press("Command3").completed) << run.lastMessage();
+    run.press("Command2");
+    run.press("Form40d.Command6");
+    const Drawing d = run.session.module().drawing("Form40d.Picture1", run.session.state());
+    const double d_kNm = 25757e3 / 3.5 * 0.008 / 11.52;
+    const double w = 0.00406 * (5 + 0.3 * 3) * 1296 / d_kNm * 1000;
+    std::string maximum;
+    for (const Shape& shape : d.shapes)
+        if (const auto* l = std::get_if<Label>(&shape.geometry); l && l->text.rfind("Máximo = ", 0) == 0)
+            maximum = l->text.substr(std::string("Máximo = ").size());
+    EXPECT_NEAR(readNumber(maximum), w, 0.01 * w);
+}
+
+bool noNumberFault(const FormState& s) {
+    auto bad = [](const std::string& t) { return t.find("nan") != std::string::npos || t.find("inf") != std::string::npos; };
+    for (const auto& [name, text] : s.texts())
+        if (bad(text)) return false;
+    for (const auto& [name, rows] : s.grids())
+        for (const auto& row : rows)
+            for (const auto& cell : row)
+                if (bad(cell)) return false;
+    return true;
+}
+
+TEST(Form40, HostileTextsEndInAResultOrAMessage) {
+    const std::string hostile[] = {"", "abc", "1e308", "-0", "-1", "99999999", "0.0000001", "1" + std::string(400, '0')};
+    std::vector<std::pair<std::string, std::pair<int, int>>> places;
+    for (int k = 1; k <= 9; ++k) places.push_back({"Text" + std::to_string(k), {-1, -1}});
+    for (const char* grid : {"Form40b.Grade1", "Form40b.Grade2"})
+        for (int c = 1; c <= 2; ++c) places.push_back({grid, {1, c}});
+    for (const auto& [name, at] : places)
+        for (const std::string& text : hostile) {
+            SCOPED_TRACE(name + " = " + text);
+            BeamRun run = typedSlab({{"2", "3", "30", "30"}}, {"no", "no", "cancel", "cancel", "cancel"});
+            if (at.first < 0) {
+                run.set({{name, text}});
+            } else {
+                run.session.state().grid(name)[at.first][at.second] = text;
+            }
+            for (const char* command : {"Command1", "Form40b.Command1", "Command3", "Command2", "Form40d.Command6"}) {
+                const std::size_t before = run.prompter.messages().size();
+                const Outcome o = run.press(command);
+                EXPECT_TRUE(o.completed || run.prompter.messages().size() > before) << command;
+            }
+            EXPECT_TRUE(noNumberFault(run.session.state()));
+            for (const char* picture : {"Form40c.Picture1", "Form40d.Picture1"})
+                for (const Shape& shape : run.session.module().drawing(picture, run.session.state()).shapes)
+                    if (const auto* l = std::get_if<Label>(&shape.geometry)) {
+                        EXPECT_EQ(l->text.find("nan"), std::string::npos);
+                    }
+        }
+}
+
+}  // namespace
