@@ -273,13 +273,21 @@ SafetyFactor safetyFactor(const ObliqueModel& model, double as, double nd, doubl
         out.s = g0 / md;
         return out;
     }
-    if (g0 <= 0) {
-        out.s = 0;
-        return out;
-    }
     // The path leaves the surface at the latest where the force alone squashes the
     // section; there the moment it resists is taken as nil, so no search is made.
     double a = 0, ga = g0, b = squash / nd, gb = -b * md;
+    // Without steel the section takes no moment without a force: the path starts on
+    // the surface, and the inside is sought by halving the factor from the squash.
+    for (int halved = 0; ga <= 0; ++halved) {
+        if (halved == kMaxDoublings) {
+            out.s = 0;
+            return out;
+        }
+        const double s = b / 2, g = gap(s);
+        if (!std::isfinite(g)) break;
+        (g > 0 ? a : b) = s;
+        (g > 0 ? ga : gb) = g;
+    }
     const double tolerance = 1e-4 * md;
     const bool found = falsePosition(a, ga, b, gb, gap, [&](double g) { return std::abs(g) <= tolerance; },
                                      limits.steelRounds, Refine::Illinois);

@@ -2,8 +2,9 @@
 // `morve --screenshots DIR`: pictures of the menu, the start dialog, Form7 after a
 // calculation with its detailing, report preview and help, the torsion results,
 // the detailing of a T, a column design with its section, an interaction diagram
-// and the design situations with their plot, for a look at the program without a
-// display.
+// and the design situations with their plot, the polygonal sections under oblique
+// bending with their neutral axis and moment contour, for a look at the program
+// without a display.
 #include <QString>
 
 namespace morve {
