@@ -84,14 +84,14 @@ public:
         QVERIFY2(found.front()->isSelected(), item);
     }
 
-    // A number typed into the bars column of a grid row (0 = first data row): the
-    // first key opens the cell's editor, Enter closes it.
-    void typeCell(const std::string& screenName, const char* grid, int row, const char* digits) {
+    // A number typed into a cell of a grid row (0 = first data row), by default in
+    // the bars column: the first key opens the cell's editor, Enter closes it.
+    void typeCell(const std::string& screenName, const char* grid, int row, const char* digits, int column = 1) {
         auto* table = qobject_cast<QTableWidget*>(screen(screenName)->control(grid));
         QVERIFY2(table, grid);
         QVERIFY(row < table->rowCount());
         table->setFocus();
-        table->setCurrentCell(row, 1);
+        table->setCurrentCell(row, column);
         QTest::keyClick(table, digits[0]);
         auto* editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
         if (!editor) editor = table->findChild<QLineEdit*>();
