@@ -182,7 +182,9 @@ NeutralAxisSolution alignMoment(const ObliqueModel& model, double as, double nd,
     };
 
     double a = -target, ea = error(a);
-    if (done(ea)) return finish(true);
+    // A section that takes no moment at all under this force (plain concrete
+    // without a force) has no direction to turn to.
+    if (done(ea) || (best.r.mx == 0 && best.r.my == 0)) return finish(true);
     if (!std::isfinite(ea)) return finish(false);
     // Seek the bracket: step by the error (the turn of a section equally stiff about
     // every axis), then by the secant of the last two passes.

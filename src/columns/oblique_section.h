@@ -92,14 +92,15 @@ NeutralAxisSolution balanceDepth(const ObliqueModel& model, const TurnedSection&
                                  int maxRounds);
 
 // The angle and depth whose resisting moment points along (mxd, myd) under nd.
-// Either moment zero fixes the angle; otherwise the search starts at the angle of a
-// section with equal stiffness about every axis (the neutral axis square to the
-// moment) and corrects it by the secant of the direction error, inside a bracket
-// that it widens until the error changes sign and bisects whenever a secant step
-// would leave it. The direction of the resisting moment turns monotonically with
-// the angle, so the bracket holds the one root and the pass limit is never reached
-// in practice for a doubly symmetric section, whose bracket is at most a quarter
-// turn wide.
+// Either moment zero fixes the angle. Otherwise the rule is: start with the neutral
+// axis square to the acting moment (exact for a section equally stiff about every
+// axis); while the direction error keeps its sign, turn by the error over the
+// secant slope of the last two passes (slope -1 at first), at most an eighth of a
+// turn a pass; once the error has changed sign, Illinois false position inside
+// that bracket. The direction of the resisting moment turns monotonically with the
+// angle; for a doubly symmetric section it is 0 at angle 0 and a quarter turn at
+// -pi/2, so the bracket is never wider than a quarter turn and the search ends in
+// about twenty passes at worst, well inside the limit of 51.
 NeutralAxisSolution alignMoment(const ObliqueModel& model, double as, double nd, double mxd, double myd,
                                 const SearchLimits& limits);
 

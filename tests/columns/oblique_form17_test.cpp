@@ -235,3 +235,39 @@ TEST(ArbitraryPolygon, ReportGivesBothAnswers) {
     EXPECT_EQ(lines[5], "Gamac= 1.4     Gamas= 1.15");
     EXPECT_EQ(lines[17], "Barra= 1                     X (cm)= -6               Y (cm)= -21         As (cm2)= 2.5");
 }
+
+TEST(ArbitraryPolygon, AngleSearchTurnsTheMomentOntoEveryDirection) {
+    // Doubly symmetric shapes within the passes of Form16 (a quarter turn of
+    // directions suffices), and shapes without symmetry with the tighter tolerance
+    // of Form17 over the whole turn; plain concrete and heavy steel, light and heavy
+    // compression.
+    using Shape = std::pair<std::vector<morve::Point>, std::vector<morve::Point>>;
+    const std::vector<Shape> symmetric{
+        {{{-10, -80}, {10, -80}, {10, 80}, {-10, 80}}, {{-7, -77}, {7, -77}, {7, 77}, {-7, 77}}},
+        {{{-10, -40}, {10, -40}, {10, -10}, {40, -10}, {40, 10}, {10, 10}, {10, 40}, {-10, 40}, {-10, 10}, {-40, 10},
+          {-40, -10}, {-10, -10}},
+         {{-6, -36}, {6, -36}, {6, 36}, {-6, 36}, {-36, -6}, {-36, 6}, {36, -6}, {36, 6}}}};
+    const std::vector<Shape> general{
+        {{{0, 0}, {80, 0}, {80, 60}, {65, 60}, {65, 15}, {15, 15}, {15, 60}, {0, 60}},
+         {{4, 4}, {76, 4}, {76, 56}, {69, 56}, {4, 56}, {11, 56}, {40, 4}, {40, 11}}},
+        {{{0, 0}, {100, 0}, {100, 15}, {58, 15}, {58, 80}, {42, 80}, {42, 15}, {0, 15}},
+         {{4, 4}, {96, 4}, {96, 11}, {4, 11}, {46, 76}, {54, 76}}},
+        {{{0, 0}, {60, 0}, {0, 40}}, {{5, 5}, {45, 5}, {5, 30}}}};
+    for (bool symmetry : {true, false})
+        for (const auto& [outline, bars] : symmetry ? symmetric : general) {
+            const morve::ObliqueModel model(
+                morve::centredSection(outline, bars, std::vector<double>(bars.size(), 1.0 / bars.size())),
+                {morve::StressBlockParameters(25), 0.85 * 2.5 / 1.4, 50 / 1.15, 21000});
+            const morve::SearchLimits limits = symmetry ? morve::SearchLimits{} : morve::SearchLimits{100, 60, 1e-4, 100};
+            const double ac = model.section().area, tolerance = limits.angleTolerance * std::numbers::pi;
+            for (double as : {0.0, 0.03 * ac})
+                for (double nu : {0.1, 0.5, 0.8})
+                    for (int degrees = 3; degrees < (symmetry ? 90 : 360); degrees += 10) {
+                        const double t = degrees * std::numbers::pi / 180;
+                        const auto s = morve::alignMoment(model, as, nu * ac * 1.5179, std::cos(t), std::sin(t), limits);
+                        ASSERT_TRUE(s.converged) << degrees << " " << nu << " " << as;
+                        EXPECT_NEAR(std::remainder(std::atan2(s.r.my, s.r.mx) - t, 2 * std::numbers::pi), 0,
+                                    tolerance + 1e-12);
+                    }
+        }
+}
