@@ -211,16 +211,18 @@ void writePolygonCase(ReportWriter& out, const CoordinateTables& t, const FormSt
     out.write("Número de vértices da seção= ", s.text(t.vertices));
     out.write("Número de barras de aço= ", s.text(t.bars));
     out.blank();
+    // The tables with an area column keep to narrower columns to fit the page.
+    const int xAt = t.barAreas ? 15 : 30, yAt = t.barAreas ? 35 : 55, areaAt = 55;
     auto table = [&](const std::string& caption, const std::string& name, const std::string& grid, bool area) {
         out.write(caption);
         const GridRows& rows = s.grid(grid);
         for (std::size_t r = 1; r < rows.size(); ++r) {
             auto cell = [&](std::size_t c) { return c < rows[r].size() ? rows[r][c] : std::string(); };
             if (area)
-                out.write(name, num(static_cast<double>(r)), tab(30), "X (cm)= ", cell(1), tab(55), "Y (cm)= ",
-                          cell(2), tab(75), "As (cm2)= ", cell(3));
+                out.write(name, num(static_cast<double>(r)), tab(xAt), "X (cm)= ", cell(1), tab(yAt), "Y (cm)= ",
+                          cell(2), tab(areaAt), "As (cm2)= ", cell(3));
             else
-                out.write(name, num(static_cast<double>(r)), tab(30), "X (cm)= ", cell(1), tab(55), "Y (cm)= ",
+                out.write(name, num(static_cast<double>(r)), tab(xAt), "X (cm)= ", cell(1), tab(yAt), "Y (cm)= ",
                           cell(2));
         }
         out.blank();

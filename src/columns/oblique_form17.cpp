@@ -41,6 +41,7 @@ std::string negativeBar(std::size_t bar) {
 // moment are exact to far better than the rounding of the results.
 const SearchLimits kLimits{100, 60, 1e-4, 100};
 constexpr int kContourDirections = 72;
+constexpr int kReportPictureLines = 18;
 
 // What the calculation and the contour are made from, once every check has passed.
 struct Prepared {
@@ -139,6 +140,14 @@ public:
         out.write("B) Dimensionamento:");
         out.write("Área de aço calculada: As= ", t("Text12"), " cm2");
         out.write("Armadura mínima= ", t("Text13"), " cm2");
+        // The section with the neutral axis of the solution, once there is one.
+        Drawing section = drawing(kPolygonPictureScreen + ".Picture1", s);
+        if (!section.empty()) {
+            out.pageBreak();
+            out.write("Seção transversal e linha neutra:");
+            out.blank();
+            out.picture(std::move(section), kReportPictureLines);
+        }
     }
 
     Chart chart(const std::string& control, const FormState& s) const override {
