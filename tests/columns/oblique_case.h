@@ -1,6 +1,5 @@
 #pragma once
-// A polygonal column module opened as from the menu, its counts and coordinate
-// tables filled, a button pressed, and what the user was told.
+// A polygonal column module with its counts and coordinate tables filled.
 #include <cmath>
 #include <vector>
 
@@ -14,33 +13,22 @@ struct ObliqueCase {
     std::string module;
     std::map<std::string, std::string> set;
     Rows vertices, bars;  // x, y (and the area of a bar)
-    std::vector<std::string> answers = {};
 
     ColumnCase::Run press(const std::string& command = "") const {
-        ColumnCase c{module, set, {}, answers};
+        ColumnCase c{module, set, {}, {}};
         c.set.emplace("Text4", std::to_string(vertices.size()));
         c.set.emplace("Text5", std::to_string(bars.size()));
-        ColumnCase::Run r;
-        const Module* m = ModuleRegistry::find(module);
-        EXPECT_NE(m, nullptr) << module;
-        r.session = std::make_unique<ModuleSession>(*m, StartDefaults{});
-        FormState& s = r.session->state();
-        for (const auto& [box, text] : c.set) s.setText(box, text);
-        fill(s.grid(module + "b.Grade1"), vertices);
-        fill(s.grid(module + "b.Grade2"), bars);
-        ScriptedPrompter prompter(answers);
-        r.outcome = r.session->press(command.empty() ? r.session->info().calculate : command, prompter);
-        r.messages = prompter.messages();
-        return r;
+        c.grids = {{module + "b.Grade1", numbered(vertices)}, {module + "b.Grade2", numbered(bars)}};
+        return c.press(command);
     }
 
-    static void fill(GridRows& grid, const Rows& rows) {
-        grid.resize(1);
+    static GridRows numbered(const Rows& rows) {
+        GridRows out;
         for (std::size_t i = 0; i < rows.size(); ++i) {
-            std::vector<std::string> row{std::to_string(i + 1)};
-            for (double v : rows[i]) row.push_back(formatPlain(v));
-            grid.push_back(row);
+            out.push_back({std::to_string(i + 1)});
+            for (double v : rows[i]) out.back().push_back(formatPlain(v));
         }
+        return out;
     }
 };
 
