@@ -7,38 +7,18 @@
 #include "basis/messages.h"
 #include "columns/column_form.h"
 #include "columns/column_section.h"
+#include "columns/column_results.h"
 
 namespace morve {
 
 namespace {
 
-const std::string kSmallColumn =
-    "A NBR-6118 não admite pilares com dimensão menor que 14cm. VOCÊ QUER CORRIGIR A DIMENSÃO?";
-const std::string kSlenderGamaf =
-    "Como a menor dimensão da seção (bmin) é inferior a 19cm, a NBR-6118 exige que o coeficiente "
-    "Gamaf seja multiplicado por 1,95-bmin/20.      VOCÊ QUER CORRIGIR Gamaf?";
 const std::string kSlenderNd =
     "Como a menor dimensão da seção (bmin) é inferior a 19cm, a NBR-6118 exige que o coeficiente "
     "Gamaf seja multiplicado por 1,95-bmin/20.      VOCÊ QUER CORRIGIR O ESFORÇO NORMAL DE CÁLCULO?";
-const std::string kSmallArea =
-    "ATENÇÃO: A área da seção do pilar é menor que 360cm2, o que não é permitido pela NBR-6118.";
-const std::string kRateAbove8 = "A taxa de armadura é superior a 8%. Aumente as dimensões da seção de concreto.";
-const std::string kRateAbove4 =
-    "A taxa de armadura é superior a 4%. Verifique se a taxa de armadura não será superior a 8%, na "
-    "região das emendas por traspasse.";
-const std::string kDiameterAbove25 =
-    "Resultou um diâmetro das barras superior a 25mm. Você pode empregar feixes de barras ou alterar o "
-    "número de barras na seção.";
 const std::string kSquashed = "A seção não suporta o esforço normal dado.";
 const std::string kAreaNotNegative = "Forneça um valor positivo (ou nulo) para a área de aço.";
 const std::string kAreaPositive = "Forneça um valor positivo para a área de aço.";
-// Ours: forces that no section of these data can take lead to no finite number.
-const std::string kUndefined =
-    "Os dados fornecidos não levam a um resultado definido. Revise os dados da seção e dos esforços.";
-
-// The commercial diameters of column bars, mm.
-const std::vector<std::pair<double, std::string>> kDiameters{
-    {10, "10"}, {12.5, "12.5"}, {16, "16"}, {20, "20"}, {25, "25"}};
 
 // The concrete that set the block of the last "&CALCULAR": the diagram keeps it.
 const std::string kBlockFck = "StressBlockFck";
@@ -68,15 +48,6 @@ SectionModel modelOf(const ColumnSection& section, const StressBlockParametersVa
     return SectionModel{section.steel(), section.outline(), block, m.es * 100, m.fyd};
 }
 
-// The questions on the smallest dimension, then the warning on the area, which lets
-// the run go on.
-void checkColumnSize(CheckSequence& checks, const ColumnSection& section,
-                     const std::string& slenderQuestion, const std::string& slenderFocus) {
-    const double bmin = section.smallest();
-    checks.askIf(bmin < 14, kSmallColumn, "Text4").askIf(bmin < 19, slenderQuestion, slenderFocus);
-    if (!checks.stopped() && section.area() < 360) checks.prompter().warn(kSmallArea);
-}
-
 bool finite(double x) { return std::isfinite(x); }
 
 }  // namespace
@@ -96,7 +67,7 @@ Outcome ColumnModule::design(FormState& s, Prompter& prompter) const {
     checks.warnIf(nk < 0, "O esforço normal Nk não pode ser negativo.", f.normal)
         .warnIf(mk < 0, "O momento fletor Mk não pode ser negativo.", f.moment);
     checkPartialCoefficients(checks, {{s.number(f.gamac), f.gamac}, {s.number(f.gamas), f.gamas}, {gamaf, f.gamaf}});
-    checkColumnSize(checks, section, kSlenderGamaf, f.gamaf);
+    checkColumnSize(checks, section.smallest(), section.area(), "Text4", kSlenderGamaf, f.gamaf);
     if (checks.stopped()) return checks.outcome();
 
     const StressBlockParametersValues block = StressBlockParameters(m.fck);
@@ -110,35 +81,12 @@ Outcome ColumnModule::design(FormState& s, Prompter& prompter) const {
     const DesignRatio ratio = designRatio(model, nu, mu);
     checks.warnIf(ratio.stop != SearchStop::Converged, searchStopMessage(ratio.stop));
     const double as = ac * std::max(ratio.omega, 0.0) * sigmacd / m.fyd;
-    checks.warnIf(!finite(as), kUndefined);
-    const double rho = 100 * as / ac;
-    checks.warnIf(rho > 8, kRateAbove8);
-    if (checks.stopped()) return checks.outcome();
-    if (rho > 4) prompter.warn(kRateAbove4);
-    s.setText(f.asResult, formatResult(as));
-
-    // The minimum takes fcd without alphac: 0.15 Nd / fyd, never below 0.4%.
-    const double nu0 = nd / (ac * m.fcd);
-    const double asMin = ac * std::max(0.15 * m.fcd * nu0 / m.fyd, 0.004);
-    s.setText(f.asMinimum, formatResult(asMin));
-
-    const int bars = model.steel.total;
-    const double phi = 10 * std::sqrt(4 * std::max(as, asMin) / (bars * kBarPi));
-    auto chosen = std::find_if(kDiameters.begin(), kDiameters.end(), [&](const auto& d) { return d.first >= phi; });
-    checks.warnIf(chosen == kDiameters.end(), kDiameterAbove25);
-    if (checks.stopped()) return checks.outcome();
-    s.setText(f.barCount, std::to_string(bars));
-    s.setText(f.diameter, chosen->second);
-
-    const double phiMax = 10 * section.smallest() / 8;
-    checks.warnIf(phiMax < chosen->first,
-                  isCircular(f.shape)
-                      ? "Resultou um diâmetro das barras superior ao valor máximo (h/8) estabelecido na NBR-6118."
-                      : "Resultou um diâmetro das barras superior ao valor máximo (bmin/8) estabelecido na NBR-6118.");
-    if (checks.stopped()) return checks.outcome();
-    const double bar = chosen->first / 10;
-    s.setText(f.existing, formatResult(bars * kBarPi * bar * bar / 4));
-    return Outcome::done().then(EffectKind::EnableControl, printButton(f.key));
+    const std::string tooThick =
+        isCircular(f.shape)
+            ? "Resultou um diâmetro das barras superior ao valor máximo (h/8) estabelecido na NBR-6118."
+            : "Resultou um diâmetro das barras superior ao valor máximo (bmin/8) estabelecido na NBR-6118.";
+    return writeColumnSteel(checks, s, {f.key, f.asResult, f.asMinimum, f.barCount, f.diameter, f.existing},
+                            {as, ac, nd, m.fcd, m.fyd, model.steel.total, section.smallest(), tooThick});
 }
 
 Outcome ColumnModule::verify(FormState& s, Prompter& prompter) const {
@@ -155,7 +103,7 @@ Outcome ColumnModule::verify(FormState& s, Prompter& prompter) const {
     checks.warnIf(nd < 0, "O esforço normal Nd não pode ser negativo.", f.normal)
         .warnIf(as < 0, kAreaNotNegative, isLayered(f.shape) ? f.layersCommand : f.area);
     checkPartialCoefficients(checks, {{s.number(f.gamac), f.gamac}, {s.number(f.gamas), f.gamas}});
-    checkColumnSize(checks, section, kSlenderNd, f.normal);
+    checkColumnSize(checks, section.smallest(), section.area(), "Text4", kSlenderNd, f.normal);
     if (checks.stopped()) return checks.outcome();
 
     const StressBlockParametersValues block = StressBlockParameters(m.fck);
@@ -171,7 +119,7 @@ Outcome ColumnModule::verify(FormState& s, Prompter& prompter) const {
     const ResistingMoment r = resistingMoment(model, nu, nuMax, omega);
     checks.warnIf(r.stop != SearchStop::Converged, searchStopMessage(r.stop));
     const double md = std::max(r.mu * ac * section.h * sigmacd / 100, 0.0);
-    checks.warnIf(!finite(r.mu), kUndefined);
+    checks.warnIf(!finite(r.mu), kUndefinedResult);
     if (checks.stopped()) return checks.outcome();
     s.setText(f.resistingMoment, formatResult(md));
     return Outcome::done().then(EffectKind::EnableControl, f.q(f.diagramCommand));

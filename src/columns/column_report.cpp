@@ -1,5 +1,6 @@
 // The reports of the column modules: the boxes as the user sees them.
 #include "columns/column_form.h"
+#include "columns/column_results.h"
 #include "columns/column_section.h"
 #include "reports/report_writer.h"
 
@@ -48,29 +49,14 @@ void ColumnModule::report(const std::string& key, const FormState& s, ReportWrit
     const ColumnForm& f = form_;
     if (key != f.key) return;
     auto t = [&](const std::string& box) { return s.text(box); };
-    out.write("Propriedades dos materiais:");
-    out.write("Concreto: fck= ", t("Text1"), " MPa");
-    out.write("Aço: fyk= ", t("Text2"), " MPa", blanks(5), "Es= ", t("Text3"), " GPa");
-    out.blank();
-    out.write("Coeficientes parciais de segurança:");
-    if (f.design)
-        out.write("Gamac= ", t(f.gamac), blanks(5), "Gamas= ", t(f.gamas), blanks(5), "Gamaf= ", t(f.gamaf));
-    else
-        out.write("Gamac= ", t(f.gamac), blanks(5), "Gamas= ", t(f.gamas));
-    out.blank();
+    writeColumnMaterials(out, s, f.gamac, f.gamas, f.design ? f.gamaf : std::string());
     writeSection(out, f, s);
 
     if (f.design) {
         out.write("Esforços solicitantes de serviço:");
         out.write("Esforço normal Nk= ", t(f.normal), " kN", blanks(5), "Momento fletor Mk= ", t(f.moment), " kNm");
         out.blank();
-        out.write("RESULTADOS:");
-        out.blank();
-        out.write("Área de aço calculada: As= ", t(f.asResult), " cm2");
-        out.blank();
-        out.write("Armadura mínima= ", t(f.asMinimum), " cm2");
-        out.blank();
-        out.write("SOLUÇÃO:", blanks(5), t(f.barCount), " barras de ", t(f.diameter), " mm");
+        writeDesignResults(out, s, {f.key, f.asResult, f.asMinimum, f.barCount, f.diameter, f.existing});
     } else {
         out.write("Área total de aço: As= ", t(f.area), " cm2");
         out.blank();

@@ -338,6 +338,61 @@ bool slabShots(MorveApp& app, const QString& folder) {
     return ok;
 }
 
+// The polygonal sections under oblique bending: a chamfered doubly symmetric
+// column and an L, each with its section, neutral axis and, for the L, its moment
+// contour.
+// Rows typed without their number: the number column is filled in order.
+void fillDataRows(ModuleHost& host, const std::string& grid, const std::vector<std::vector<std::string>>& rows) {
+    GridRows& cells = host.session().state().grid(grid);
+    cells.resize(1);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        cells.push_back({std::to_string(i + 1)});
+        cells.back().insert(cells.back().end(), rows[i].begin(), rows[i].end());
+    }
+    fill(host, {});
+}
+
+bool obliqueShots(MorveApp& app, const QString& folder) {
+    ScriptedPrompter answers;
+    setGuiPrompter(&answers);
+    bool ok = true;
+    if (ModuleHost* host = open(app, "Form16")) {
+        fill(*host, {{"Text1", "25"}, {"Text3", "210"}, {"Text4", "8"}, {"Text5", "6"}, {"Text6", "800"},
+                     {"Text7", "150"}, {"Text8", "50"}});
+        fillDataRows(*host, "Form16b.Grade1", {{"-10", "-30"}, {"10", "-30"}, {"15", "-25"}, {"15", "25"}, {"10", "30"},
+                                          {"-10", "30"}, {"-15", "25"}, {"-15", "-25"}});
+        fillDataRows(*host, "Form16b.Grade2",
+                 {{"-11", "-26"}, {"11", "-26"}, {"11", "0"}, {"11", "26"}, {"-11", "26"}, {"-11", "0"}});
+        press(*host, "Command4");
+        ok &= saveScreen(*host, "Form16", folder, "form16.png");
+        press(*host, "Command5");
+        ok &= saveScreen(*host, "Form12c", folder, "form16-secao.png");
+    }
+    if (ModuleHost* host = open(app, "Form17")) {
+        fill(*host, {{"Text1", "25"}, {"Text3", "210"}, {"Text4", "6"}, {"Text5", "10"}, {"Text7", "2000"},
+                     {"Text8", "300"}, {"Text9", "-200"}});
+        fillDataRows(*host, "Form17b.Grade1",
+                 {{"0", "0"}, {"60", "0"}, {"60", "20"}, {"20", "20"}, {"20", "60"}, {"0", "60"}});
+        fillDataRows(*host, "Form17b.Grade2",
+                 {{"4", "4", "2"}, {"30", "4", "2"}, {"56", "4", "2"}, {"56", "16", "2"}, {"30", "16", "2"},
+                  {"16", "16", "2"}, {"16", "56", "2"}, {"4", "56", "2"}, {"4", "30", "2"}, {"16", "30", "2"}});
+        press(*host, "Command3");
+        ok &= saveScreen(*host, "Form17b", folder, "form17b.png");
+        press(*host, "Form17b.Command2");
+        press(*host, "Command4");
+        ok &= saveScreen(*host, "Form17", folder, "form17.png");
+        press(*host, "Command5");
+        ok &= saveScreen(*host, "Form12c", folder, "form17-secao.png");
+        press(*host, "Form12c.Command1");
+        press(*host, "Command6");
+        ok &= saveScreen(*host, "Form17c", folder, "form17c.png");
+    }
+    setGuiPrompter(nullptr);
+    app.returnToMenu();
+    settle();
+    return ok;
+}
+
 }  // namespace
 
 int takeScreenshots(const QString& folder) {
@@ -427,6 +482,7 @@ int takeScreenshots(const QString& folder) {
     ok &= columnShots(app, folder);
     ok &= slabShots(app, folder);
     ok &= flatSlabShots(app, folder);
+    ok &= obliqueShots(app, folder);
     return ok ? 0 : 1;
 }
 

@@ -20,6 +20,7 @@ struct ColumnCase {
     std::map<std::string, std::string> set;
     std::vector<int> layers;  // bars per layer, for the layered forms
     std::vector<std::string> answers;
+    std::map<std::string, GridRows> grids = {};  // data rows of other tables, by qualified name
     // Texts typed after a first calculation that succeeded, before `command`: the
     // way to a button that opens disabled.
     std::map<std::string, std::string> retype = {};
@@ -45,6 +46,10 @@ struct ColumnCase {
             rows.resize(1);
             for (std::size_t i = 0; i < layers.size(); ++i)
                 rows.push_back({std::to_string(i + 1), std::to_string(layers[i])});
+        }
+        for (const auto& [grid, rows] : grids) {
+            s.grid(grid).resize(1);
+            s.grid(grid).insert(s.grid(grid).end(), rows.begin(), rows.end());
         }
         if (!retype.empty()) {
             ScriptedPrompter quiet;
