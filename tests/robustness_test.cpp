@@ -45,11 +45,13 @@ std::vector<Start> startsOf(const Module& module) {
     std::vector<Start> starts;
     starts.push_back({"Load", ModuleSession(module, StartDefaults{})});
     for (const auto& entry : fs::directory_iterator(MORVE_EXAMPLES)) {
+        if (entry.path().extension() != ".json") continue;  // project files open from their cases
         std::ifstream in(entry.path());
         std::stringstream text;
         text << in.rdbuf();
         nlohmann::json c = parseCase(text.str());
         if (c.value("module", "") != module.info().key) continue;
+        if (c.contains("open")) c["open"] = (entry.path().parent_path() / c["open"].get<std::string>()).string();
         c["press"] = nlohmann::json::array();
         starts.push_back({entry.path().filename().string(), std::move(*runCase(c).session)});
     }

@@ -45,10 +45,6 @@ void sizePanelTable(FormState& s, int n) {
     }
 }
 
-Outcome switchTo(const std::string& from, const std::string& to) {
-    return Outcome::done().then(EffectKind::HideScreen, from).then(EffectKind::ShowScreen, to);
-}
-
 Outcome panelData(FormState& s, Prompter& prompter) {
     const int n = countIn(s, "Text2");
     CheckSequence checks(prompter);

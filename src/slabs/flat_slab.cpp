@@ -81,10 +81,6 @@ std::vector<FlatColumn> columnsIn(const FormState& s) {
     return cs;
 }
 
-Outcome switchTo(const std::string& from, const std::string& to) {
-    return Outcome::done().then(EffectKind::HideScreen, from).then(EffectKind::ShowScreen, to);
-}
-
 void checkSpans(CheckSequence& checks, const FormState& s) {
     checkPositive(checks, s.number("Text5"), "o vão lx", "Text5");
     checkPositive(checks, s.number("Text6"), "o vão ly", "Text6");

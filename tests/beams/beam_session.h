@@ -27,7 +27,15 @@ struct BeamRun {
             g.push_back({std::to_string(i + 1), rows[i].first, rows[i].second});
         return *this;
     }
-    Outcome press(const std::string& command) { return session.press(command, prompter); }
+    // A button is reached as the user reaches it: from its own window, brought back
+    // to the front first when a companion stands over it. Whether a hidden or
+    // disabled button refuses is the session's own test.
+    Outcome press(const std::string& command) {
+        const std::string name = session.state().qualify(command);
+        const std::string screen = name.substr(0, name.find('.'));
+        if (!session.screenShown(screen)) session.apply(Outcome::done().then(EffectKind::ShowScreen, screen));
+        return session.press(command, prompter);
+    }
     const std::string& text(const std::string& name) const { return session.state().text(name); }
     double number(const std::string& name) const { return session.state().number(name); }
     // The last message shown, "" for none.
