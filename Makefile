@@ -1,13 +1,15 @@
 # make run   installs what is missing, builds and starts MORVE
 # make test  the same, then runs every test
 # make sanitize  the tests built and run under AddressSanitizer and UBSan
+# make package   a Debian package (build/morve_VERSION_ARCH.deb)
 BUILD   ?= build
 CMAKE_FLAGS ?= -DCMAKE_BUILD_TYPE=Release
 PACKAGES := g++ cmake ninja-build qt6-base-dev qt6-charts-dev qt6-svg-dev libqt6opengl6-dev \
             libgif-dev nlohmann-json3-dev libgtest-dev libbenchmark-dev liblapack-dev xvfb xauth poppler-utils \
-            qt6-translations-l10n
+            qt6-translations-l10n \
+            dpkg-dev desktop-file-utils appstream shared-mime-info librsvg2-bin groff-base file
 
-.PHONY: all deps configure build run test sanitize bench screenshots install clean
+.PHONY: all deps configure build run test sanitize bench screenshots install package clean
 
 all: build
 
@@ -54,6 +56,9 @@ screenshots: build
 
 install: build
 	@cmake --install $(BUILD)
+
+package: build
+	@cd $(BUILD) && cpack -G DEB
 
 clean:
 	rm -rf $(BUILD)
