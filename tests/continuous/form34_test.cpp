@@ -71,6 +71,14 @@ TEST(Form34, ButtonsCheckInOrder) {
     EXPECT_EQ(run.prompter.messages().size(), 2u);
 }
 
+TEST(Form34, OpensWithTheConcreteOfTheStartDialog) {
+    StartDefaults thirty;
+    ASSERT_TRUE(thirty.select(1, "30"));
+    ModuleSession session(*ModuleRegistry::find("Form34"), thirty);
+    EXPECT_EQ(session.state().text("Text1"), "30");
+    EXPECT_EQ(session.state().text("Text2"), "28517");  // 18275 (3.8)^(1/3) by CEB/90
+}
+
 TEST(Form34, TablesKeepWhatWasTypedWhenACountGrows) {
     BeamRun run = twoSpans();
     run.set({{"Text3", "4"}, {"Text4", "5"}});
