@@ -6,12 +6,14 @@
 #include <gtest/gtest.h>
 
 #include <cctype>
+#include <cmath>
 #include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 
 #include "app/module.h"
+#include "draw/drawing.h"
 #include "cli/case_runner.h"
 #include "reports/report_dispatch.h"
 #include "reports/report_writer.h"
@@ -92,6 +94,21 @@ private:
         EXPECT_FALSE(lostNumber(text)) << where_ << " " << what << ": " << text;
     }
 
+    // A picture whose arithmetic failed draws nowhere or writes "nan" in a label.
+    void expectFinite(const Drawing& d, const std::string& what) {
+        bool ok = std::isfinite(d.left) && std::isfinite(d.right) && std::isfinite(d.top) && std::isfinite(d.bottom);
+        auto at = [&](const Point& p) { ok = ok && std::isfinite(p.x) && std::isfinite(p.y); };
+        for (const Shape& shape : d.shapes)
+            std::visit([&](const auto& g) {
+                using G = std::decay_t<decltype(g)>;
+                if constexpr (std::is_same_v<G, Line>) at(g.from), at(g.to);
+                else if constexpr (std::is_same_v<G, Polyline>) for (const Point& p : g.points) at(p);
+                else if constexpr (std::is_same_v<G, Circle>) at(g.centre);
+                else at(g.at), expectNumbers(g.text, what);
+            }, shape.geometry);
+        EXPECT_TRUE(ok) << where_ << " " << what;
+    }
+
     // What the desktop shows after a success: the reports the module owns and its
     // pictures and charts.
     void reportAndPictures(const ModuleSession& session, const std::string& trial) {
@@ -103,7 +120,9 @@ private:
                     expectNumbers(renderText(paginate(out.document(), "", PageRule::Paper), PageRule::Paper),
                                   trial + " report " + screen.name);
                 for (const auto& c : screen.controls) {
-                    if (c.kind == ControlKind::Picture) module.drawing(screen.name + "." + c.name, session.state());
+                    if (c.kind == ControlKind::Picture)
+                        expectFinite(module.drawing(screen.name + "." + c.name, session.state()),
+                                     trial + " picture " + c.name);
                     if (c.kind == ControlKind::Chart) module.chart(screen.name + "." + c.name, session.state());
                 }
             }

@@ -41,6 +41,17 @@ inline const std::string kPositiveH = "Forneça um valor positivo para h.";
 inline const std::string kPositiveDPrime = "Forneça um valor positivo para d'.";
 inline const std::string kDBelowH = "A altura útil tem que ser menor que a altura h.";
 inline const std::string kDPrimeBelowD = "A distância d' deve ser menor que a altura útil d.";
+inline const std::string kEcsRange =
+    "O módulo secante do concreto está fora dos limites razoáveis. VOCÊ QUER CORRIGIR O MÓDULO?";
+inline const std::string kHighCreep =
+    "O coeficiente de fluência é muito alto e pode ter havido um erro em sua avaliação. VOCÊ QUER "
+    "ALTERAR O COEFICIENTE DE FLUÊNCIA?";
+inline const std::string kUpdateLoad = "Atualize o carregamento.";
+// The solvers of beams, frames and slabs: a structure that cannot stand, and
+// data that carry the arithmetic beyond what a number holds.
+inline const std::string kSingular = "A matriz de rigidez é singular. Revise os dados.";
+inline const std::string kOutOfRange =
+    "Os valores fornecidos levam a resultados fora dos limites numéricos. Revise os dados.";
 
 // "Forneça um valor positivo para " and the name, with the full stop.
 std::string positiveValue(const std::string& name);

@@ -15,11 +15,6 @@ namespace {
 
 RegisterModule<Form35> registration;
 
-const std::string kEcsRange =
-    "O módulo secante do concreto está fora dos limites razoáveis. VOCÊ QUER CORRIGIR O MÓDULO?";
-const std::string kCreepHigh =
-    "O coeficiente de fluência é muito alto e pode ter havido um erro em sua avaliação. VOCÊ QUER "
-    "ALTERAR O COEFICIENTE DE FLUÊNCIA?";
 const std::string kColumnDimension =
     "A NBR-6118 não admite pilares com dimensão menor que 14cm. VOCÊ QUER CORRIGIR A DIMENSÃO?";
 const std::string kNullInertia = "O momento de inércia não pode ser nulo.";
@@ -181,8 +176,8 @@ Outcome Form35::calculate(FormState& s, Prompter& prompter) const {
     checks.warnIf(ecs <= 0, msg::kPositiveEcs, "Text2");
     // The bounds come from the CEB/90 modulus whatever code gave the default.
     const double reference = cebSecantModulus(fck);
-    checks.askIf(ecs < 0.7 * reference || ecs > 1.3 * reference, kEcsRange, "Text2")
-        .askIf(phi > 5, kCreepHigh, "Text17");
+    checks.askIf(ecs < 0.7 * reference || ecs > 1.3 * reference, msg::kEcsRange, "Text2")
+        .askIf(phi > 5, msg::kHighCreep, "Text17");
     checkPartialCoefficients(checks, {{gamac, "Text3"}, {gamaf, "Text4"}});
     checks.askIf(hx < 14, kColumnDimension, "Text5")
         .askIf(hy < 14, kColumnDimension, "Text6")

@@ -93,7 +93,7 @@ std::optional<BeamModel> readBeam(const FormState& s, CheckSequence& checks) {
     const int nodal = countIn(s, "Text5"), bar = countIn(s, "Text6"), segments = countIn(s, "Text7");
     const std::string bars = "Form34b.Grade1", supportGrid = "Form34b.Grade2", moments = "Form34f.Grade1";
     checks.warnIf(n != dataRows(s, bars), txt34::kUpdateBeam, "Command8")
-        .warnIf(n != dataRows(s, moments), txt34::kUpdateLoad, "Command4")
+        .warnIf(n != dataRows(s, moments), msg::kUpdateLoad, "Command4")
         .warnIf(supports != dataRows(s, supportGrid), txt34::kUpdateBeam, "Command8")
         .warnIf(nodal != dataRows(s, "Form34c.Grade1") || bar != dataRows(s, "Form34c.Grade2") ||
                     segments != dataRows(s, "Form34c.Grade3"),

@@ -56,7 +56,7 @@ Outcome beamData(FormState& s, Prompter& prompter) {
     CheckSequence checks(prompter);
     checkConcreteRange(checks, fck, "Text1");
     checks.warnIf(ecs <= 0, msg::kPositiveEcs, "Text2")
-        .askIf(ecs < 0.7 * eref || ecs > 1.3 * eref, txt34::kEcsRange, "Text2")
+        .askIf(ecs < 0.7 * eref || ecs > 1.3 * eref, msg::kEcsRange, "Text2")
         .askIf(phi > 5, txt34::kCreep, "Text8");
     checkSpanCount(checks, n);
     checkSupportCount(checks, supports, n);
@@ -213,9 +213,9 @@ Outcome calculate(FormState& s, Prompter& prompter) {
     checks.warnIf(!tooLarge.empty(), tooLarge, "Command8");
     if (checks.stopped()) return checks.outcome();
     const BeamResults r = analyseBeam(*model);
-    checks.warnIf(r.status == BeamStatus::Singular, txt34::kSingular)
+    checks.warnIf(r.status == BeamStatus::Singular, msg::kSingular)
         .warnIf(r.status == BeamStatus::TooManyReactions, txt34::kTooManyReactions, "Command8")
-        .warnIf(r.status == BeamStatus::NotFinite, txt34::kOutOfRange, "Command8");
+        .warnIf(r.status == BeamStatus::NotFinite, msg::kOutOfRange, "Command8");
     if (checks.stopped()) return checks.outcome();
     writeResults(s, *model, r);
     keepAnalysedInputs(s);

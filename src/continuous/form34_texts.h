@@ -3,10 +3,10 @@
 // same things.
 #include <string>
 
+#include "basis/messages.h"
+
 namespace morve::txt34 {
 
-inline const std::string kEcsRange =
-    "O módulo secante do concreto está fora dos limites razoáveis. VOCÊ QUER CORRIGIR O MÓDULO?";
 inline const std::string kCreep =
     "O coeficiente de fluência é muito alto. VOCÊ QUER CORRIGIR O COEFICIENTE DE FLUÊNCIA?";
 inline const std::string kMinSpans = "O número mínimo de vãos é igual a 1.";
@@ -20,7 +20,6 @@ inline const std::string kMaxBarLoads =
 inline const std::string kMaxSegments = "Este programa é limitado ao máximo de 40 segmentos de carga uniforme.";
 
 inline const std::string kUpdateBeam = "Atualize os dados da viga.";
-inline const std::string kUpdateLoad = "Atualize o carregamento.";
 inline const std::string kUpdateLoading = "Atualize os dados do carregamento.";
 inline const std::string kZeroInertia =
     "Você está fornecendo uma inércia nula para a seção da viga. Revise os dados.";
@@ -48,13 +47,10 @@ inline const std::string kSegmentZero = "Nenhum valor de carga distribuída foi 
 inline const std::string kSupportNode = "Você está colocando apoio em um nó inexistente. Revise os dados.";
 inline const std::string kSupportType = "Você está fornecendo um tipo errado para os apoios. Revise os dados.";
 inline const std::string kHypostatic = "A viga é hipostática.";
-inline const std::string kSingular = "A matriz de rigidez é singular. Revise os dados.";
 // Limits of this program's own, where the old one had none of its words.
 inline const std::string kTooManyReactions =
     "Este programa está limitado a 10 deslocamentos impedidos nos apoios (um por apoio simples "
     "ou engaste elástico, dois por engaste). Revise os dados.";
-inline const std::string kOutOfRange =
-    "Os valores fornecidos levam a resultados fora dos limites numéricos. Revise os dados.";
 
 // The drawing screens' own checks.
 inline const std::string kAllLengths = "Forneça o comprimento de todos os vãos.";

@@ -18,7 +18,7 @@ void checkStiffnessMaterials(CheckSequence& checks, const FormState& s) {
     checks.warnIf(fck < 20, msg::kLowFck)
         .warnIf(fck > 90, msg::kHighFck, "Text1")
         .warnIf(ecs <= 0, msg::kPositiveEcs, "Text2")
-        .askIf(ecs < 0.7 * eref || ecs > 1.3 * eref, txtframe::kEcsRange, "Text2");
+        .askIf(ecs < 0.7 * eref || ecs > 1.3 * eref, msg::kEcsRange, "Text2");
 }
 
 bool writeStiffness(FormState& s, double ei, double e) {

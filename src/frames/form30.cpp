@@ -53,12 +53,12 @@ Outcome calculate(FormState& s, Prompter& prompter) {
     if (!m) return checks.outcome();
     const bool concentrated = s.option("Option1");
     const FrameSolver solver(*m, frameBars(*m));
-    checks.warnIf(solver.singular(), txtframe::kSingular);
+    checks.warnIf(solver.singular(), msg::kSingular);
     if (checks.stopped()) return checks.outcome();
     const std::vector<double> u = solver.solveLevels(unitLoads(*m, concentrated));
     const double height = m->levelHeight(m->levels());
     const double ei = equivalentStiffness(concentrated, height, levelSway(*m, u, m->levels()));
-    checks.warnIf(!writeStiffness(s, ei, m->e), txtframe::kOutOfRange);
+    checks.warnIf(!writeStiffness(s, ei, m->e), msg::kOutOfRange);
     if (checks.stopped()) return checks.outcome();
     return Outcome::done().then(EffectKind::EnableControl, printButton("Form30"));
 }

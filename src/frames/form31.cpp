@@ -71,7 +71,7 @@ Outcome calculate(FormState& s, Prompter& prompter) {
         .warnIf(!inertias, kZeroInertia, "Command8");
     if (checks.stopped()) return checks.outcome();
     const FrameSolver solver(m, bars);
-    checks.warnIf(solver.singular(), txtframe::kSingular);
+    checks.warnIf(solver.singular(), msg::kSingular);
     if (checks.stopped()) return checks.outcome();
     const bool concentrated = s.option("Option1");
     std::vector<double> load(static_cast<std::size_t>(m.equations()), 0.0);
@@ -93,7 +93,7 @@ Outcome calculate(FormState& s, Prompter& prompter) {
     const double height = m.levelHeight(n);
     const double ei = equivalentStiffness(concentrated, height, u[static_cast<std::size_t>(kFrameDof * n)]);
     const double area = height / flexibility;
-    checks.warnIf(!writeStiffness(s, ei, m.e) || !std::isfinite(area), txtframe::kOutOfRange);
+    checks.warnIf(!writeStiffness(s, ei, m.e) || !std::isfinite(area), msg::kOutOfRange);
     if (checks.stopped()) return checks.outcome();
     s.setText("Text4", formatResult(area, 4));
     return Outcome::done().then(EffectKind::EnableControl, printButton("Form31"));

@@ -90,8 +90,8 @@ Outcome calculate(FormState& s, Prompter& prompter) {
     const FrameResults r = analyseFrame(c->model, c->loading, c->infill);
     checks.warnIf(r.status == FrameStatus::SlenderPanel, txtframe::kSlenderWall, "Form33.Command1")
         .warnIf(r.status == FrameStatus::NoClearPanel, txtframe::kNoClearPanel, "Form33.Command1")
-        .warnIf(r.status == FrameStatus::Singular, txtframe::kSingular)
-        .warnIf(r.status == FrameStatus::NotFinite, txtframe::kOutOfRange)
+        .warnIf(r.status == FrameStatus::Singular, msg::kSingular)
+        .warnIf(r.status == FrameStatus::NotFinite, msg::kOutOfRange)
         .warnIf(r.status == FrameStatus::NoProgress, txtframe::kNoProgress, "Form33.Command1");
     if (checks.stopped()) return checks.outcome();
     // Neither stops the run: the results of the last iteration, or of the bare
@@ -132,7 +132,7 @@ std::optional<Form33Case> readForm33(const FormState& s, CheckSequence& checks) 
     const int v = countIn(s, "Text4");
     checkFrameLimits(checks, s);
     checkFrameTables(checks, s, kScreens);
-    checks.warnIf(dataRows(s, kForces) != v || dataRows(s, kVertical) != v, txtframe::kUpdateLoads, "Command10");
+    checks.warnIf(dataRows(s, kForces) != v || dataRows(s, kVertical) != v, msg::kUpdateLoad, "Command10");
     if (!checks.stopped())
         checks.warnIf(masonryOn(s) && selectedPanels(s) && dataRows(s, kPanels) != panelCount(s),
                       txtframe::kUpdateMasonry, "Command1");

@@ -77,7 +77,7 @@ void checkFrameCounts(CheckSequence& checks, const FormState& s, const std::stri
     checks.warnIf(fck < 20, msg::kLowFck)
         .warnIf(fck > 90, highFck, "Text1")
         .warnIf(ecs <= 0, msg::kPositiveEcs, "Text2")
-        .askIf(ecs < 0.7 * eref || ecs > 1.3 * eref, txtframe::kEcsRange, "Text2")
+        .askIf(ecs < 0.7 * eref || ecs > 1.3 * eref, msg::kEcsRange, "Text2")
         .warnIf(p < 2, txtframe::kMinColumns, "Text3")
         .warnIf(p > kFrameMaxColumns, txtframe::kMaxColumns, "Text3")
         .warnIf(v < 1, txtframe::kMinBeams, "Text4")

@@ -3,20 +3,19 @@
 // check the same things.
 #include <string>
 
+#include "basis/messages.h"
+
 namespace morve::txtframe {
 
 inline const std::string kHighFck8953 =
     "A maior resistência admitida na NBR-8953 é igual a 90MPa. Os modelos de cálculo não se aplicam ao concreto "
     "considerado.";
-inline const std::string kEcsRange =
-    "O módulo secante do concreto está fora dos limites razoáveis. VOCÊ QUER CORRIGIR O MÓDULO?";
 inline const std::string kMinColumns = "O número mínimo de pilares é igual a 2.";
 inline const std::string kMaxColumns = "Este programa está limitado a um máximo de 40 pilares.";
 inline const std::string kMinBeams = "O número mínimo de vigas é igual a 1.";
 inline const std::string kMaxBeams = "Este programa está limitado a um máximo de 100 vigas.";
 inline const std::string kUpdateColumns = "Atualize os dados dos pilares.";
 inline const std::string kUpdateBeams = "Atualize os dados das vigas.";
-inline const std::string kUpdateLoads = "Atualize o carregamento.";
 inline const std::string kUpdateMasonry = "Atualize os dados das alvenarias.";
 inline const std::string kTooManyNodes =
     "O número de nós é maior que 500. O programa não está preparado para resolver este pórtico.";
@@ -41,7 +40,6 @@ inline const std::string kMasonryThickness =
 inline const std::string kSlenderWall =
     "Há paredes com índice de esbeltez h/t superior a 24, o que não é permitido como alvenaria estrutural. "
     "Desconsidere essas paredes e execute novamente.";
-inline const std::string kSingular = "A matriz de rigidez é singular. Revise os dados.";
 inline const std::string kPDelta =
     "Não convergiu em 50 iterações. Os resultados correspondem à última iteração realizada.";
 inline const std::string kInfillLost =
@@ -54,8 +52,6 @@ inline const std::string kNoWind =
 inline const std::string kNoClearPanel =
     "Há painéis de alvenaria sem vão livre: a altura das vigas ou a largura dos pilares ocupa todo o painel. "
     "Revise os dados.";
-inline const std::string kOutOfRange =
-    "Os valores fornecidos levam a resultados fora dos limites numéricos. Revise os dados.";
 inline const std::string kNoProgress =
     "A redução da rigidez das alvenarias não progrediu. Revise os dados das alvenarias.";
 

@@ -145,8 +145,8 @@ Outcome calculate(FormState& s, Prompter& prompter) {
     const FloorShare share = distributeToPanels(d->panels, load);
     for (double f : share.forces) finite = finite && shown(f);
     checks.warnIf(share.status == FloorStatus::NotFinite || (share.status == FloorStatus::Solved && !finite),
-                  txt32::kOutOfRange, "Form32.Command8")
-        .warnIf(share.status == FloorStatus::Singular, txt32::kSingular, "Form32.Command8");
+                  msg::kOutOfRange, "Form32.Command8")
+        .warnIf(share.status == FloorStatus::Singular, msg::kSingular, "Form32.Command8");
     if (checks.stopped()) return checks.outcome();
 
     if (!s.option("Form32c.Option3")) {

@@ -2,6 +2,8 @@
 // The messages of the bracing panel screens.
 #include <string>
 
+#include "basis/messages.h"
+
 namespace morve::txt32 {
 
 inline const std::string kPanelCount = "Forneça o número de painéis.";
@@ -36,9 +38,5 @@ inline const std::string kHeightOutside =
     "arrasto.";
 inline const std::string kTypedDrag =
     "Forneça os coeficientes de arrasto ou escolha uma opção para cálculo automático.";
-inline const std::string kSingular = "A matriz de rigidez é singular. Revise os dados.";
-// The program's own, where a result would not be a number.
-inline const std::string kOutOfRange =
-    "Os valores fornecidos levam a resultados fora dos limites numéricos. Revise os dados.";
 
 }  // namespace morve::txt32

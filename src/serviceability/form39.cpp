@@ -263,11 +263,9 @@ Outcome Form39::calculate(FormState& s, Prompter& prompter) const {
     const double modulus = 18275 * std::cbrt((mat.fck + 8) / 10);
     checks.warnIf(mat.ecs <= 0, msg::kPositiveEcs, "Text2")
         .askIf(mat.ecs < 0.7 * modulus || mat.ecs > 1.3 * modulus,
-               "O módulo secante do concreto está fora dos limites razoáveis. VOCÊ QUER CORRIGIR O MÓDULO?", "Text2")
+               msg::kEcsRange, "Text2")
         .askIf(mat.phi > 5,
-               "O coeficiente de fluência é muito alto e pode ter havido um erro em sua avaliação. VOCÊ QUER "
-               "ALTERAR O COEFICIENTE DE FLUÊNCIA?",
-               "Text3")
+               msg::kHighCreep, "Text3")
         .askIf(mat.epsCs > 0.002,
                "A deformação de retração é muito alta e pode ter havido um erro em sua avaliação. VOCÊ QUER "
                "ALTERAR A DEFORMAÇÃO DE RETRAÇÃO?",

@@ -70,17 +70,10 @@ public:
             .box("Text16", "By (m)=");
         s.frame("Frame8", "", 2, 0, 1, 3).command("Command1", "&CALCULAR", "Calcular esforços e flecha");
         ScreenBuilder r("Form23b", "LAJES RETANGULARES SIMPLESMENTE APOIADAS", false);
-        r.frame("Frame1", "Flecha no centro", 0, 0)
-            .label("Label1", "Valores em mm:")
-            .result("Text1", "Calculada =")
-            .result("Text2", "Admissível =");
-        r.frame("Frame2", "Momentos fletores no centro", 0, 1)
-            .label("Label2", "Valores em kNm/m:")
+        addCentreResultFrames(r, "Momentos fletores no centro")
             .result("Text3", "Mx=")
             .result("Text4", "My=");
-        r.frame("Frame3", "", 1, 0, 1, 2)
-            .command("Command1", "&Voltar")
-            .command("Command7", "Im&primir", "Imprimir relatório");
+        addBackAndPrint(r.frame("Frame3", "", 1, 0, 1, 2));
         return {s.build(), r.build()};
     }
 

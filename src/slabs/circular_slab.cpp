@@ -30,19 +30,12 @@ public:
             .option("Option2", "Engastada", "Contorno");
         s.frame("Frame5", "", 2, 0, 1, 2).command("Command1", "&CALCULAR", "Calcular esforços e flecha");
         ScreenBuilder r("Form24e", "LAJES CIRCULARES", false);
-        r.frame("Frame1", "Flecha no centro", 0, 0)
-            .label("Label1", "Valores em mm:")
-            .result("Text1", "Calculada =")
-            .result("Text2", "Admissível =");
-        r.frame("Frame2", "Momentos fletores", 0, 1)
-            .label("Label2", "Valores em kNm/m:")
+        addCentreResultFrames(r, "Momentos fletores")
             .result("Text3", "Mr=")
             .result("Text4", "Mc=")
             .result("Text5", "Resultante (malha quadrada)=")
             .result("Text6", "Mer=");
-        r.frame("Frame3", "", 1, 0, 1, 2)
-            .command("Command1", "&Voltar")
-            .command("Command7", "Im&primir", "Imprimir relatório");
+        addBackAndPrint(r.frame("Frame3", "", 1, 0, 1, 2));
         return {s.build(), r.build()};
     }
 

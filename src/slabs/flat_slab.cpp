@@ -42,8 +42,6 @@ const std::string kSmallArea =
     "Segundo a NBR-6118, a área mínima da seção transversal dos pilares é de 360 cm2.   Clique em OK para "
     "corrigir as dimensões dos pilares. Clique em CANCELAR para continuar.";
 const std::string kSingular = "Matriz singular. Revise os dados.";
-const std::string kOutOfRange =
-    "Os valores fornecidos levam a resultados fora dos limites numéricos. Revise os dados.";
 const std::string kCalculateFirst = "Clique no botão 'CALCULAR' para resolver a estrutura.";
 
 // A count typed in a box, truncated; far values stay far, without overflow.
@@ -183,7 +181,7 @@ Outcome calculate(FormState& s, Prompter& prompter) {
     if (!slab) return checks.outcome();
     const FlatResults r = analyseFlatSlab(*slab);
     checks.warnIf(r.status == FlatStatus::Singular, kSingular)
-        .warnIf(r.status == FlatStatus::NotFinite, kOutOfRange);
+        .warnIf(r.status == FlatStatus::NotFinite, msg::kOutOfRange);
     if (checks.stopped()) return checks.outcome();
     writeResults(s, r);
     s.setVar(kAnalysed, keep(*slab));

@@ -125,10 +125,7 @@ RectangularSlabResults grillageSlab(const GrillageCase& c, double lx, double ly,
 
 ScreenDecl mainScreen() {
     ScreenBuilder s("Form22", "      LAJES RETANGULARES APOIADAS NOS QUATRO LADOS            CARGA UNIFORME");
-    addConcreteFrame(s, "Frame1", 0, 0);
-    addLoadFrame(s, "Frame3", 1, 0);
-    s.frame("Frame4", "Vãos (m)", 0, 1).box("Text6", "lx=").box("Text7", "ly=");
-    s.frame("Frame5", "Espessura da laje", 1, 1).box("Text8", "h (cm)=");
+    addRectangularSlabFrames(s);
     s.frame("Frame2", "Lados engastados", 0, 2, 3, 1);
     for (int i = 0; i < 6; ++i) {
         s.option(kOptions[i], std::to_string(i + 1) + ": " + layouts()[i].text, "Caso", i == 0);
@@ -167,10 +164,7 @@ ScreenDecl resultScreen(const std::string& name, const std::vector<int>& cases) 
         .label("Label30", "Valores em mm:")
         .result("Text5", "Calculada =")
         .result("Text6", "Admissível =");
-    s.frame("Frame8", "", 1, 1)
-        .picture("Picture1", 130, 90)
-        .command("Command1", "&Voltar")
-        .command("Command7", "Im&primir", "Imprimir relatório");
+    addBackAndPrint(s.frame("Frame8", "", 1, 1).picture("Picture1", 130, 90));
     return s.build();
 }
 

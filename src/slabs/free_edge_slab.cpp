@@ -71,10 +71,7 @@ ScreenDecl resultScreen(const std::string& name, std::initializer_list<int> show
         .result("Text5", "No centro =")
         .result("Text19", "No bordo livre =")
         .result("Text6", "Admissível =");
-    s.frame("Frame8", "", 1, 1)
-        .picture("Picture1", 130, 90)
-        .command("Command1", "&Voltar")
-        .command("Command7", "Im&primir", "Imprimir relatório");
+    addBackAndPrint(s.frame("Frame8", "", 1, 1).picture("Picture1", 130, 90));
     return s.build();
 }
 
@@ -89,10 +86,7 @@ public:
 
     std::vector<ScreenDecl> screens() const override {
         ScreenBuilder s("Form24", "      LAJES RETANGULARES COM UM BORDO LIVRE            CARGA UNIFORME");
-        addConcreteFrame(s, "Frame1", 0, 0);
-        addLoadFrame(s, "Frame3", 1, 0);
-        s.frame("Frame4", "Vãos (m)", 0, 1).box("Text6", "lx=").box("Text7", "ly=");
-        s.frame("Frame5", "Espessura da laje", 1, 1).box("Text8", "h (cm)=");
+        addRectangularSlabFrames(s);
         s.frame("Frame2", "Lados engastados (bordo livre em y = ly)", 0, 2, 3, 1);
         for (int i = 0; i < 4; ++i) {
             s.option(kOptions[i], std::to_string(i + 1) + ": " + cases()[i].text, "Caso", i == 0);

@@ -7,6 +7,7 @@
 #include "app/module.h"
 #include "app/numbers.h"
 #include "basis/checks.h"
+#include "basis/messages.h"
 #include "reports/report_writer.h"
 #include "slabs/slab_basis.h"
 
@@ -27,7 +28,6 @@ const std::string kNoFiner = "Impossível refinar mais.";
 const std::string kPositiveRatio = "Forneça um valor positivo para a relação J/J1.";
 const std::string kRatioAboveOne = "A relação J/J1 deve ser menor ou igual a 1.";
 const std::string kBandTooWide = "Impossível resolver com essa malha. Escolha uma malha mais grosseira.";
-const std::string kSingular = "A matriz de rigidez é singular. Revise os dados.";
 
 const std::string kVertices = "Form24g.Grade1", kSides = "Form24g.Grade2";
 const std::string kMoments = "Form24f.Grade1", kReactions = "Form24f.Grade2";
@@ -257,12 +257,12 @@ Outcome calculate(FormState& s, Prompter& prompter) {
     c.q = s.number("Text5");
     const GrillageResults r = analyseGrillage(c.polygon, mesh->mesh, grillageData(c));
     checks.warnIf(r.status == GrillageStatus::BandTooWide, kBandTooWide, "Command1")
-        .warnIf(r.status == GrillageStatus::Singular, kSingular);
+        .warnIf(r.status == GrillageStatus::Singular, msg::kSingular);
     if (checks.stopped()) return checks.outcome();
     bool finite = std::isfinite(r.wmax) && std::isfinite(r.mxMax) && std::isfinite(r.mxMin) &&
                   std::isfinite(r.myMax) && std::isfinite(r.myMin);
     for (double v : r.sideReaction) finite = finite && std::isfinite(v);
-    checks.warnIf(!finite, kSingular);
+    checks.warnIf(!finite, msg::kSingular);
     if (checks.stopped()) return checks.outcome();
     fillResults(s, c, r);
     s.setVar(kCaseVar, encodeCase(c));

@@ -10,11 +10,6 @@ namespace morve {
 
 namespace {
 
-const std::string kEcsRange =
-    "O módulo secante do concreto está fora dos limites razoáveis. VOCÊ QUER CORRIGIR O MÓDULO?";
-const std::string kHighCreep =
-    "O coeficiente de fluência é muito alto e pode ter havido um erro em sua avaliação. VOCÊ QUER "
-    "ALTERAR O COEFICIENTE DE FLUÊNCIA?";
 const std::string kThinSlab =
     "Segundo a NBR-6118, a espessura mínima das lajes maciças é 7 cm, em todos os casos.   Clique em "
     "OK para corrigir a espessura. Clique em CANCELAR para continuar.";
@@ -35,6 +30,25 @@ void addLoadFrame(ScreenBuilder& s, const std::string& frame, int row, int colum
         .box("Text5", "Acidental=");
 }
 
+void addRectangularSlabFrames(ScreenBuilder& s) {
+    addConcreteFrame(s, "Frame1", 0, 0);
+    addLoadFrame(s, "Frame3", 1, 0);
+    s.frame("Frame4", "Vãos (m)", 0, 1).box("Text6", "lx=").box("Text7", "ly=");
+    s.frame("Frame5", "Espessura da laje", 1, 1).box("Text8", "h (cm)=");
+}
+
+ScreenBuilder& addCentreResultFrames(ScreenBuilder& r, const std::string& momentsCaption) {
+    r.frame("Frame1", "Flecha no centro", 0, 0)
+        .label("Label1", "Valores em mm:")
+        .result("Text1", "Calculada =")
+        .result("Text2", "Admissível =");
+    return r.frame("Frame2", momentsCaption, 0, 1).label("Label2", "Valores em kNm/m:");
+}
+
+ScreenBuilder& addBackAndPrint(ScreenBuilder& r) {
+    return r.command("Command1", "&Voltar").command("Command7", "Im&primir", "Imprimir relatório");
+}
+
 void loadSlabDefaults(FormState& state, const StartDefaults& defaults) {
     if (readNumber(defaults.list(1)) > 0) state.setText("Text1", defaults.list(1));
     if (defaults.ecs > 0) state.setText("Text2", defaults.ecsText());
@@ -47,8 +61,8 @@ void checkSlabConcrete(CheckSequence& checks, const FormState& s) {
     // The code's secant modulus of this concrete, in MPa; a typed value far from it
     // is more likely a slip of units than a measured concrete.
     const double eref = 18275 * std::cbrt((fck + 8) / 10);
-    checks.askIf(ecs < 700 * eref || ecs > 1300 * eref, kEcsRange, "Text2")
-        .askIf(creep > 5, kHighCreep, "Text3");
+    checks.askIf(ecs < 700 * eref || ecs > 1300 * eref, msg::kEcsRange, "Text2")
+        .askIf(creep > 5, msg::kHighCreep, "Text3");
 }
 
 void checkPositive(CheckSequence& checks, double value, const std::string& what, const std::string& box) {

@@ -26,6 +26,14 @@ inline constexpr double kSlabPoisson = 0.2;
 void addConcreteFrame(ScreenBuilder& s, const std::string& frame, int row, int column);
 // The "Cargas (kN/m2)" frame: g Text4, q Text5.
 void addLoadFrame(ScreenBuilder& s, const std::string& frame, int row, int column);
+// The data of a rectangular slab: concrete, loads, spans lx (Text6) and ly (Text7)
+// and thickness (Text8), in the two left columns of the screen.
+void addRectangularSlabFrames(ScreenBuilder& s);
+// A result screen of one case: the deflection at the centre (Text1, Text2) and the
+// frame of the moments, to which the caller adds the boxes.
+ScreenBuilder& addCentreResultFrames(ScreenBuilder& r, const std::string& momentsCaption);
+// "&Voltar" (Command1) and "Im&primir" (Command7), the last buttons of a result screen.
+ScreenBuilder& addBackAndPrint(ScreenBuilder& r);
 // fck and Ecs of the start dialog into Text1 and Text2.
 void loadSlabDefaults(FormState& state, const StartDefaults& defaults);
 

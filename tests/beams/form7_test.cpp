@@ -28,25 +28,6 @@ std::unique_ptr<morve::testing::Run> calculate(const std::map<std::string, std::
 
 }  // namespace
 
-TEST(Form7Load, TakesTheStartDefaults) {
-    ModuleSession plain(form7(), StartDefaults{});
-    EXPECT_EQ(plain.state().text("Text1"), "20");
-    EXPECT_EQ(plain.state().text("Text2"), "500");
-    EXPECT_EQ(plain.state().text("Text9"), "200");
-    EXPECT_EQ(plain.state().text("List6"), "");  // the user must choose
-    EXPECT_FALSE(plain.state().enabled("Command3"));
-    EXPECT_FALSE(plain.state().enabled(printButton("Form7")));
-
-    StartDefaults d;
-    d.select(1, "30");
-    d.select(3, "CA-60");
-    d.select(5, "NBR-6118");
-    ModuleSession chosen(form7(), d);
-    EXPECT_EQ(chosen.state().text("Text1"), "30");
-    EXPECT_EQ(chosen.state().text("Text2"), "600");
-    EXPECT_EQ(chosen.state().text("Text9"), "210");
-}
-
 struct CheckCase {
     const char* name;
     std::map<std::string, std::string> set;

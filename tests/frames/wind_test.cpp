@@ -178,7 +178,7 @@ TEST(Form32, ButtonsCheckInOrder) {
     // All panels along x: the floor turns freely.
     BeamRun parallel = building();
     for (int r = 4; r <= 5; ++r) parallel.session.state().grid("Form32b.Grade1")[r][3] = "0";
-    expectStop(parallel.prompter, parallel.press("Command3"), txt32::kSingular, K::Warning, "Form32.Command8");
+    expectStop(parallel.prompter, parallel.press("Command3"), msg::kSingular, K::Warning, "Form32.Command8");
     // The charts: A/B = 4 puts B/A = 0.25 outside; H/B = 45 is above the low chart.
     const std::pair<std::map<std::string, std::string>, std::string> charts[] = {
         {{{"Text1", "40"}}, txt32::kFacesOutside}, {{{"Text4", "450"}}, txt32::kHeightOutside}};
@@ -222,26 +222,6 @@ TEST(Form32, WindAtZeroNinetyAndAHundredAndEightyDegrees) {
     ASSERT_TRUE(run.press("Command3").completed) << run.lastMessage();
     EXPECT_TRUE(run.number("Form32c.Text5") > 1.2 && run.number("Form32c.Text5") < 1.35);
     EXPECT_NEAR(run.number("Form32c.Text6"), 1.00, 0.03);
-}
-
-TEST(Form32, HostileTextsEndInAResultOrAMessage) {
-    const std::string hostile[] = {"", "abc", "1e308", "-0", "-1", "99999999", "0.0000001", "1" + std::string(400, '0')};
-    std::vector<std::string> places = {"Text1", "Text2", "Text3", "Text4"};
-    for (const char* screen : {"Form32b.Text", "Form32c.Text"})
-        for (int i = 1; i <= (screen[6] == 'b' ? 3 : 6); ++i) places.push_back(screen + std::to_string(i));
-    for (int cell = 5; cell < 30; ++cell) places.push_back(std::to_string(cell));  // row cell / 5, column cell % 5
-    for (bool charts : {false, true})
-        for (const std::string& place : places)
-            for (const std::string& text : hostile) {
-                SCOPED_TRACE(place + " = " + text.substr(0, 12));
-                BeamRun run = building({"no", "no"});
-                if (charts) run.session.state().setOption("Form32c.Option2", true);
-                if (std::isdigit(place[0])) run.session.state().grid("Form32b.Grade1")[std::stoi(place) / 5][std::stoi(place) % 5] = text;
-                else run.set({{place, text}});
-                EXPECT_TRUE(run.press("Command3").completed || !run.prompter.messages().empty());
-                for (const auto& row : run.session.state().grid("Form32.Grade1"))
-                    EXPECT_EQ(row[1].find_first_of("ni"), std::string::npos) << row[1];
-            }
 }
 
 }  // namespace

@@ -11,24 +11,8 @@ class ContinuousBeamTest : public QObject {
     Q_OBJECT
     std::unique_ptr<ModuleUser> user;
 
-    // A cell typed as the user does: select it, the first key opens the editor,
-    // Enter closes it.
-    void typeAt(const std::string& screen, const char* grid, int row, int column, const char* text) {
-        auto* table = qobject_cast<QTableWidget*>(user->control(screen, grid));
-        QVERIFY2(table, grid);
-        QVERIFY(row < table->rowCount());
-        table->setFocus();
-        table->setCurrentCell(row, column);
-        QTest::keyClick(table, text[0]);
-        auto* editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-        if (!editor) editor = table->findChild<QLineEdit*>();
-        QVERIFY2(editor, "a célula não abriu o editor");
-        QTest::keyClicks(editor, text + 1);
-        QTest::keyClick(editor, Qt::Key_Return);
-        settle();
-    }
     void typeRow(const std::string& screen, const char* grid, int row, std::vector<const char*> cells, int from) {
-        for (std::size_t c = 0; c < cells.size(); ++c) typeAt(screen, grid, row, from + static_cast<int>(c), cells[c]);
+        for (std::size_t c = 0; c < cells.size(); ++c) user->typeCell(screen, grid, row, cells[c], from + static_cast<int>(c));
     }
 
 private slots:

@@ -11,20 +11,6 @@ class ServiceModulesTest : public QObject {
     Q_OBJECT
     std::unique_ptr<ModuleUser> user;
 
-    // Digits typed into any column of a grid row (0 = first data row).
-    void typeCell(const char* grid, int row, int column, const char* digits) {
-        auto* table = qobject_cast<QTableWidget*>(user->control("Form39b", grid));
-        QVERIFY2(table && row < table->rowCount(), grid);
-        table->setFocus();
-        table->setCurrentCell(row, column);
-        QTest::keyClick(table, digits[0]);
-        auto* editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-        QVERIFY2(editor, "a célula não abriu o editor");
-        QTest::keyClicks(editor, digits + 1);
-        QTest::keyClick(editor, Qt::Key_Return);
-        settle();
-    }
-
 private slots:
     void init() { user = std::make_unique<ModuleUser>(); }
     void cleanup() { user.reset(); }
@@ -73,9 +59,9 @@ private slots:
         user->pick("Form39", "List1", "12.5");
         user->click("Form39", "Command8");
         QVERIFY(user->shown("Form39b"));
-        typeCell("Grade2", 0, 1, "0");
-        typeCell("Grade2", 0, 2, "6");
-        typeCell("Grade2", 0, 3, "20");
+        user->typeCell("Form39b", "Grade2", 0, "0", 1);
+        user->typeCell("Form39b", "Grade2", 0, "6", 2);
+        user->typeCell("Form39b", "Grade2", 0, "20", 3);
         user->click("Form39b", "Command1");
         QVERIFY(user->shown("Form39b2"));
         user->click("Form39b2", "Command1");

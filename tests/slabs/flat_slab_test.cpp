@@ -243,44 +243,4 @@ TEST(Form40, DeflectionInMillimetresOfTheLongTerm) {
     EXPECT_NEAR(readNumber(maximum), w, 0.01 * w);
 }
 
-bool noNumberFault(const FormState& s) {
-    auto bad = [](const std::string& t) { return t.find("nan") != std::string::npos || t.find("inf") != std::string::npos; };
-    for (const auto& [name, text] : s.texts())
-        if (bad(text)) return false;
-    for (const auto& [name, rows] : s.grids())
-        for (const auto& row : rows)
-            for (const auto& cell : row)
-                if (bad(cell)) return false;
-    return true;
-}
-
-TEST(Form40, HostileTextsEndInAResultOrAMessage) {
-    const std::string hostile[] = {"", "abc", "1e308", "-0", "-1", "99999999", "0.0000001", "1" + std::string(400, '0')};
-    std::vector<std::pair<std::string, std::pair<int, int>>> places;
-    for (int k = 1; k <= 9; ++k) places.push_back({"Text" + std::to_string(k), {-1, -1}});
-    for (const char* grid : {"Form40b.Grade1", "Form40b.Grade2"})
-        for (int c = 1; c <= 2; ++c) places.push_back({grid, {1, c}});
-    for (const auto& [name, at] : places)
-        for (const std::string& text : hostile) {
-            SCOPED_TRACE(name + " = " + text);
-            BeamRun run = typedSlab({{"2", "3", "30", "30"}}, {"no", "no", "cancel", "cancel", "cancel"});
-            if (at.first < 0) {
-                run.set({{name, text}});
-            } else {
-                run.session.state().grid(name)[at.first][at.second] = text;
-            }
-            for (const char* command : {"Command1", "Form40b.Command1", "Command3", "Command2", "Form40d.Command6"}) {
-                const std::size_t before = run.prompter.messages().size();
-                const Outcome o = run.press(command);
-                EXPECT_TRUE(o.completed || !o.refused.empty() || run.prompter.messages().size() > before) << command;
-            }
-            EXPECT_TRUE(noNumberFault(run.session.state()));
-            for (const char* picture : {"Form40c.Picture1", "Form40d.Picture1"})
-                for (const Shape& shape : run.session.module().drawing(picture, run.session.state()).shapes)
-                    if (const auto* l = std::get_if<Label>(&shape.geometry)) {
-                        EXPECT_EQ(l->text.find("nan"), std::string::npos);
-                    }
-        }
-}
-
 }  // namespace
