@@ -58,5 +58,6 @@ inline const std::string kOutOfRange =
     "Os valores fornecidos levam a resultados fora dos limites numéricos. Revise os dados.";
 inline const std::string kNoProgress =
     "A redução da rigidez das alvenarias não progrediu. Revise os dados das alvenarias.";
+inline const std::string kPickBar = "Selecione na lista a barra cujos diagramas deseja ver.";
 
 }  // namespace morve::txtframe

@@ -121,6 +121,36 @@ private slots:
         QVERIFY(form7->height() - (answer->mapTo(form7, QPoint(0, 0)).y() + answer->height()) < 40);
     }
 
+    // A long calculation shows its status button while it runs and hides it after.
+    // The first check of an empty screen stops each one with a box: the box comes
+    // up in the middle of the run, which is when the notice must stand.
+    void statusButtonStandsWhileTheCalculationRuns() {
+        const struct {
+            const char* module;
+            const char* command;
+            const char* status;
+        } runs[] = {{"Form16", "Command4", "Command11"},
+                    {"Form24f", "Command7", "Command13"},
+                    {"Form40", "Command3", "Command13"},
+                    {"Form33", "Command3", "Command13"}};
+        for (const auto& run : runs) {
+            ModuleUser user;
+            QVERIFY2(user.open(run.module), run.module);
+            QWidget* status = user.control(run.module, run.status);
+            QVERIFY2(status && !status->isVisible(), run.module);
+            int boxes = 0;
+            bool shownAtEveryBox = true;
+            user.prompter().onBox = [&] {
+                ++boxes;
+                shownAtEveryBox = shownAtEveryBox && status->isVisible();
+            };
+            user.click(run.module, run.command);
+            QVERIFY2(boxes > 0, run.module);
+            QVERIFY2(shownAtEveryBox, run.module);
+            QVERIFY2(!status->isVisible(), run.module);
+        }
+    }
+
     void helpPagesWriteDecimalsWithAPoint() {
         const QDir folder(qEnvironmentVariable("MORVE_DATA_DIR") + "/ajuda");
         const QStringList files = folder.entryList({"*.html", "*.txt"});
