@@ -181,11 +181,8 @@ TEST(Form33, PortalRunFillsTheTables) {
     expectStop(run.prompter, run.press("Form33g.Command1"), txtframe::kPickBar, MessageKind::Warning,
                "Form33g.List1");
     // The bar lists are results, the mortar list an input: a project file keeps only the input.
-    const std::vector<std::string> fields = run.session.module().projectFields();
-    EXPECT_EQ(std::count_if(fields.begin(), fields.end(),
-                            [](const std::string& f) { return f.find(".List") != std::string::npos; }),
-              1);
-    EXPECT_NE(std::find(fields.begin(), fields.end(), "Form33i.List1"), fields.end());
+    for (const std::string& f : run.session.module().projectFields())
+        EXPECT_TRUE(f.find(".List") == std::string::npos || f == "Form33i.List1") << f;
 }
 
 // P-delta on the screen: near the sway load the iteration stops with its message and
