@@ -1,5 +1,7 @@
 #include "app/form_state.h"
 
+#include <algorithm>
+
 #include "app/numbers.h"
 
 namespace morve {
@@ -30,6 +32,7 @@ FormState::FormState(std::string mainScreen, const std::vector<ScreenDecl>& scre
                        c.kind == ControlKind::Label) {
                 // no text of their own
             } else {
+                if (c.kind == ControlKind::List) items_[q] = c.items;
                 texts_[q] = c.text;
             }
             if (!c.enabled) disabled_.insert(q);
@@ -83,6 +86,24 @@ void FormState::setOption(const std::string& name, bool on) {
         }
     }
     texts_[q] = on ? kTrue : "";
+}
+
+const std::vector<std::string>& FormState::items(const std::string& name) const {
+    static const std::vector<std::string> kNone;
+    auto it = items_.find(qualify(name));
+    return it == items_.end() ? kNone : it->second;
+}
+
+void FormState::setItems(const std::string& name, std::vector<std::string> items) {
+    const std::string q = qualify(name);
+    if (std::find(items.begin(), items.end(), text(q)) == items.end()) texts_[q] = "";
+    items_[q] = std::move(items);
+}
+
+int FormState::selectedIndex(const std::string& name) const {
+    const std::vector<std::string>& all = items(name);
+    auto it = std::find(all.begin(), all.end(), text(name));
+    return it == all.end() ? -1 : static_cast<int>(it - all.begin());
 }
 
 const GridRows& FormState::grid(const std::string& name) const {

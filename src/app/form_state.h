@@ -2,6 +2,8 @@
 // The live content of a module's screens: the only case data there is. Controls
 // are addressed as "Form8.List1"; a name without a screen means the module's main
 // screen. A list's text is its selected item, an option's text is "True" or "".
+// A list starts with its declared items; a module may give it others at run time
+// (the bars of a calculated frame).
 #include <map>
 #include <set>
 #include <string>
@@ -33,6 +35,12 @@ public:
     bool option(const std::string& name) const;
     void setOption(const std::string& name, bool on);
 
+    // Lists: the items shown now, and the place of the selected one (-1 for none).
+    const std::vector<std::string>& items(const std::string& name) const;
+    // New items keep the selection when it is still one of them, and clear it otherwise.
+    void setItems(const std::string& name, std::vector<std::string> items);
+    int selectedIndex(const std::string& name) const;
+
     // Grids: row 0 is the header.
     const GridRows& grid(const std::string& name) const;
     GridRows& grid(const std::string& name);
@@ -62,6 +70,7 @@ private:
     std::vector<ScreenDecl> screens_;
     std::map<std::string, std::string> texts_;
     std::map<std::string, GridRows> grids_;
+    std::map<std::string, std::vector<std::string>> items_;
     std::set<std::string> disabled_, hidden_;
     std::map<std::string, std::string> vars_;
 };

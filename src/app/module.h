@@ -2,6 +2,7 @@
 // The contract of a calculation module: its screens as data, the defaults it puts
 // in them, what each of its commands does, its reports and its pictures. A module
 // is written once here and runs unchanged under the desktop and the case runner.
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -25,6 +26,10 @@ struct ModuleInfo {
     std::string printKey;              // report of the toolbar's "Imprimir"; "" for none
     std::string calculate = "Command1";  // the "&CALCULAR" button
     bool files = false;                // "Abrir" and "Salvar" act
+    // Commands whose run can be long, each with the status button ("Calculando...
+    // Aguarde.") that the desktop shows while it runs and hides after; qualified
+    // names, as "Form16.Command4" -> "Form16.Command11".
+    std::map<std::string, std::string> busy;
 };
 
 class Module {

@@ -143,6 +143,11 @@ ScreenBuilder& ScreenBuilder::hidden() {
     return *this;
 }
 
+ScreenBuilder& ScreenBuilder::rows(int n) {
+    screen_.controls.back().height = n;
+    return *this;
+}
+
 ScreenBuilder& ScreenBuilder::width(int w) {
     screen_.controls.back().width = w;
     return *this;

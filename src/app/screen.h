@@ -94,6 +94,7 @@ public:
     ScreenBuilder& disabled();
     ScreenBuilder& hidden();
     ScreenBuilder& width(int w);
+    ScreenBuilder& rows(int n);  // the rows a list shows
     // The control declared last stands on the row of the one before it, so that a
     // phrase made of several boxes ("SOLUÇÃO: n barras de φ mm") reads as one line.
     ScreenBuilder& sameRow();

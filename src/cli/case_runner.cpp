@@ -64,8 +64,8 @@ void applySet(ModuleSession& session, const json& set) {
         switch (decl->kind) {
             case ControlKind::List: {
                 std::string item = textOf(value);
-                if (!item.empty() &&
-                    std::find(decl->items.begin(), decl->items.end(), item) == decl->items.end())
+                const std::vector<std::string>& items = state.items(name);
+                if (!item.empty() && std::find(items.begin(), items.end(), item) == items.end())
                     throw CaseError("item inexistente na lista " + name + ": " + excerpt(item));
                 state.setText(name, item);
                 break;

@@ -39,6 +39,12 @@ class Form16 : public PolygonSectionModule {
 public:
     Form16() : PolygonSectionModule(kTables, {}) {}
 
+    ModuleInfo info() const override {
+        ModuleInfo i = PolygonSectionModule::info();
+        i.busy = {{"Form16.Command4", "Form16.Command11"}};
+        return i;
+    }
+
     std::vector<ScreenDecl> screens() const override {
         ScreenBuilder s("Form16",
                         "DIMENSIONAMENTO À FLEXO-COMPRESSÃO OBLÍQUA DE SEÇÕES POLIGONAIS COM DOIS EIXOS DE SIMETRIA");

@@ -17,6 +17,10 @@ RegisterModule<Form33> registerForm33;
 const FrameScreens kScreens{"Form33b", "Form33c", true};
 const std::string kForces = "Form33d.Grade1", kVertical = "Form33d.Grade2", kPanels = "Form33i.Grade1";
 const std::vector<std::string> kMortar = {"1,5 a 3,4", "3,5 a 7,0", "acima de 7,0"};
+// The lists that pick a bar for its diagrams: the beams of the results, their
+// copy on the beam diagrams, and the same for the columns.
+const std::string kBeamList = "Form33e.List1", kColumnList = "Form33e.List2";
+const std::string kBeamPick = "Form33g.List1", kColumnPick = "Form33h.List1";
 
 GridDecl resultTable(std::vector<std::string> header) {
     GridDecl g = frameTable(std::move(header), 0, KeyFilter::None);
@@ -62,6 +66,7 @@ void writeResults(FormState& s, const FrameModel& m, const FrameResults& r) {
     GridRows& columnForces = s.grid("Form33e.Grade4");
     GridRows& sway = s.grid("Form33e.Grade5");
     for (GridRows* g : {&beamMoments, &beamShears, &columnMoments, &columnForces, &sway}) g->resize(1);
+    std::vector<std::string> beams, columns;
     for (std::size_t b = 0; b < static_cast<std::size_t>(m.frameBars()); ++b) {
         const FrameBar& bar = r.bars[b];
         const BarEnds& f = r.ends[b];
@@ -72,15 +77,22 @@ void writeResults(FormState& s, const FrameModel& m, const FrameResults& r) {
         if (bar.kind == BarKind::Beam) {
             beamMoments.push_back({level, line, rounded(-f[2]), rounded(f[5])});
             beamShears.push_back({level, line, rounded(f[1])});
+            beams.push_back("Nível " + level + " - Vão " + line);
         } else {
             columnMoments.push_back({level, line, rounded(-f[2]), rounded(f[5])});
             columnForces.push_back({level, line, rounded(f[0]), rounded(f[1])});
+            columns.push_back("Andar " + level + " - Pilar " + line);
         }
     }
     for (std::size_t i = 0; i < r.sway.size(); ++i) sway.push_back({std::to_string(i + 1), rounded(r.sway[i] * 100)});
     s.setText("Form33e.Text1", formatResult(r.meanSway, 3));
     s.setText("Form33e.Text2", r.gamaZ ? rounded(*r.gamaZ) : " ");
     s.setText("Form33e.Text3", rounded(r.qMax));
+    // A bar picked before keeps its place when the frame keeps its shape.
+    for (const auto& [list, bars] : {std::pair{kBeamList, &beams}, std::pair{kColumnList, &columns}}) {
+        s.setItems(list, *bars);
+        if (s.selectedIndex(list) < 0 && !bars->empty()) s.setText(list, bars->front());
+    }
 }
 
 Outcome calculate(FormState& s, Prompter& prompter) {
@@ -105,25 +117,20 @@ Outcome calculate(FormState& s, Prompter& prompter) {
         .then(EffectKind::ShowScreen, "Form33e");
 }
 
-// A bar of a result table picked for its diagrams: the number in the box must be a
-// row of the table.
-Outcome showDiagrams(FormState& s, Prompter& prompter, const std::string& box, const std::string& table,
-                     const std::string& screen) {
-    const int row = countIn(s, box);
+// The diagrams are drawn for the bar picked in a list; the pictures follow the
+// pick by themselves, so a redraw only asks that there is one.
+Outcome checkPicked(const FormState& s, Prompter& prompter, const std::string& list) {
     CheckSequence checks(prompter);
-    checks.warnIf(row < 1 || row > dataRows(s, table), "Forneça o número de uma barra da tabela de resultados.", box);
-    if (checks.stopped()) return checks.outcome();
-    s.setText(screen + ".Text1", std::to_string(row));
-    return switchTo("Form33e", screen);
+    checks.warnIf(s.selectedIndex(list) < 0, txtframe::kPickBar, list);
+    return checks.stopped() ? checks.outcome() : Outcome::done();
 }
 
-Outcome redraw(FormState& s, Prompter& prompter, const std::string& screen, const std::string& table) {
-    const int row = countIn(s, screen + ".Text1");
-    CheckSequence checks(prompter);
-    checks.warnIf(row < 1 || row > dataRows(s, table), "Forneça o número de uma barra da tabela de resultados.",
-                  screen + ".Text1");
-    if (checks.stopped()) return checks.outcome();
-    return Outcome::done();
+Outcome showDiagrams(FormState& s, Prompter& prompter, const std::string& list, const std::string& pick) {
+    Outcome o = checkPicked(s, prompter, list);
+    if (!o.completed) return o;
+    s.setItems(pick, s.items(list));
+    s.setText(pick, s.text(list));
+    return switchTo("Form33e", pick.substr(0, pick.find('.')));
 }
 
 }  // namespace
@@ -176,7 +183,18 @@ ModuleInfo Form33::info() const {
     i.printKey = "Form33";
     i.calculate = "Command3";
     i.files = true;
+    // A tall frame with infill repeats the whole analysis until no panel is overstressed.
+    i.busy = {{"Form33.Command3", "Form33.Command13"}};
     return i;
+}
+
+// The bar lists are filled by "CALCULAR" from the results; they are no input.
+std::vector<std::string> Form33::projectFields() const {
+    std::vector<std::string> fields = Module::projectFields();
+    std::erase_if(fields, [](const std::string& f) {
+        return f == kBeamList || f == kColumnList || f == kBeamPick || f == kColumnPick;
+    });
+    return fields;
 }
 
 std::vector<ScreenDecl> Form33::screens() const {
@@ -192,7 +210,11 @@ std::vector<ScreenDecl> Form33::screens() const {
         .command("Command4", "Vigas")
         .command("Command10", "Cargas")
         .command("Command1", "Alvenaria");
-    main.frame("Frame4", "", 1, 1).command("Command12", "Ver desenho").command("Command3", "CALCULAR");
+    main.frame("Frame4", "", 1, 1)
+        .command("Command12", "Ver desenho")
+        .command("Command3", "CALCULAR")
+        .command("Command13", "Calculando... Aguarde.")
+        .hidden();
 
     ScreenBuilder loads("Form33d", "Cargas", false);
     loads.frame("Frame1", "Forças horizontais nos níveis das vigas", 0, 0)
@@ -233,7 +255,8 @@ std::vector<ScreenDecl> Form33::screens() const {
         .label("Label2", "Mb = momento fletor na extremidade da direita")
         .label("Label3", "V = esforço cortante")
         .label("Label4", "Momento positivo traciona a face inferior; V positivo para cima na extremidade da esquerda")
-        .box("Text4", "Viga para visualizar diagramas", "1", "", KeyFilter::Digit)
+        .list("List1", "Viga para visualizar diagramas", {})
+        .rows(4)
         .command("Command1", "Ver diagramas de esforços solicitantes");
     tables.frame("Frame2", "Esforços nos pilares", 0, 1)
         .grid("Grade3", resultTable({"Andar", "Pilar", "M,base (kNm)", "M,topo (kNm)"}))
@@ -244,7 +267,8 @@ std::vector<ScreenDecl> Form33::screens() const {
         .label("Label8", "V = esforço cortante")
         .label("Label9", "N positivo de compressão; momento positivo traciona a face direita; V positivo no sentido "
                          "das forças horizontais positivas")
-        .box("Text5", "Pilar para visualizar diagramas", "1", "", KeyFilter::Digit)
+        .list("List2", "Pilar para visualizar diagramas", {})
+        .rows(4)
         .command("Command3", "Ver diagramas de esforços solicitantes");
     tables.frame("Frame3", "Deslocamentos horizontais", 1, 0)
         .grid("Grade5", resultTable({"Nível", "U (cm)"}))
@@ -258,7 +282,8 @@ std::vector<ScreenDecl> Form33::screens() const {
     ScreenBuilder beam("Form33g", "Diagramas de esforços na viga", false);
     beam.frame("Frame1", "", 0, 0).picture("Picture1", 640, 220).picture("Picture2", 640, 220);
     beam.frame("Frame2", "", 1, 0)
-        .box("Text1", "Viga para visualizar diagramas", "1", "", KeyFilter::Digit)
+        .list("List1", "Viga para visualizar diagramas", {})
+        .rows(4)
         .command("Command1", "Ver diagramas de esforços solicitantes")
         .command("Command2", "&Voltar");
     ScreenBuilder column("Form33h", "Diagramas de esforços no pilar", false);
@@ -267,7 +292,8 @@ std::vector<ScreenDecl> Form33::screens() const {
         .picture("Picture2", 640, 200)
         .picture("Picture3", 640, 200);
     column.frame("Frame2", "", 1, 0)
-        .box("Text1", "Pilar para visualizar diagramas", "1", "", KeyFilter::Digit)
+        .list("List1", "Pilar para visualizar diagramas", {})
+        .rows(4)
         .command("Command1", "Ver diagramas de esforços solicitantes")
         .command("Command2", "&Voltar");
 
@@ -303,12 +329,12 @@ Outcome Form33::press(const std::string& command, FormState& s, Prompter& prompt
     if (c == "Form33c.Command1") return switchTo("Form33c", "Form33", "Form33.Command10");
     if (c == "Form33d.Command1") return switchTo("Form33d", "Form33", "Form33.Command3");
     if (c == "Form33i.Command1") return switchTo("Form33i", "Form33", "Form33.Command3");
-    if (c == "Form33e.Command1") return showDiagrams(s, prompter, "Form33e.Text4", "Form33e.Grade1", "Form33g");
-    if (c == "Form33e.Command3") return showDiagrams(s, prompter, "Form33e.Text5", "Form33e.Grade3", "Form33h");
+    if (c == "Form33e.Command1") return showDiagrams(s, prompter, kBeamList, kBeamPick);
+    if (c == "Form33e.Command3") return showDiagrams(s, prompter, kColumnList, kColumnPick);
     if (c == "Form33e.Command2") return switchTo("Form33e", "Form33f");
     if (c == "Form33e.Command4") return switchTo("Form33e", "Form33");
-    if (c == "Form33g.Command1") return redraw(s, prompter, "Form33g", "Form33e.Grade1");
-    if (c == "Form33h.Command1") return redraw(s, prompter, "Form33h", "Form33e.Grade3");
+    if (c == "Form33g.Command1" || c == kBeamPick) return checkPicked(s, prompter, kBeamPick);
+    if (c == "Form33h.Command1" || c == kColumnPick) return checkPicked(s, prompter, kColumnPick);
     if (c == "Form33g.Command2") return switchTo("Form33g", "Form33e");
     if (c == "Form33h.Command2") return switchTo("Form33h", "Form33e");
     if (c == "Form33f.Command1") return switchTo("Form33f", "Form33");
@@ -324,7 +350,7 @@ Drawing Form33::drawing(const std::string& picture, const FormState& s) const {
         for (int i = 1; i <= m->levels(); ++i) forces.push_back(i <= dataRows(s, kForces) ? s.cellNumber(kForces, i, 1) : 0);
         return framePicture(*m, forces);
     }
-    const int beam = countIn(s, "Form33g.Text1"), column = countIn(s, "Form33h.Text1");
+    const int beam = s.selectedIndex(kBeamPick) + 1, column = s.selectedIndex(kColumnPick) + 1;
     if (p == "Form33g.Picture1") return beamDiagram(s, beam, false);
     if (p == "Form33g.Picture2") return beamDiagram(s, beam, true);
     if (p == "Form33h.Picture1") return columnDiagram(s, column, 0);

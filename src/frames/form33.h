@@ -17,6 +17,7 @@ public:
     Outcome press(const std::string& command, FormState& state, Prompter& prompter) const override;
     void report(const std::string& key, const FormState& state, ReportWriter& out) const override;
     Drawing drawing(const std::string& picture, const FormState& state) const override;
+    std::vector<std::string> projectFields() const override;
 };
 
 // Every check of "CALCULAR" in its order and the analysis; nullopt when a check or

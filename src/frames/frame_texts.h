@@ -54,5 +54,6 @@ inline const std::string kNoClearPanel =
     "Revise os dados.";
 inline const std::string kNoProgress =
     "A redução da rigidez das alvenarias não progrediu. Revise os dados das alvenarias.";
+inline const std::string kPickBar = "Selecione na lista a barra cujos diagramas deseja ver.";
 
 }  // namespace morve::txtframe

@@ -1,5 +1,6 @@
 #include "gui/module_host.h"
 
+#include <QCoreApplication>
 #include <QTimer>
 
 #include "app/catalogue.h"
@@ -106,7 +107,10 @@ Outcome ModuleHost::press(const std::string& screen, const std::string& command)
     SyncingPrompter prompter(guiPrompter(), [this] {
         for (auto& [name, w] : windows_) w->loadFrom(session_.state());
     });
+    const std::string status = busyStatus(command);
+    if (!status.empty()) showStatus(status, true);
     Outcome outcome = session_.press(command, prompter);
+    if (!status.empty()) showStatus(status, false);
     for (auto& [name, w] : windows_) refresh(w);
     applyScreenEffects(outcome, window(screen));
     if (!outcome.focus.empty()) {
@@ -118,6 +122,25 @@ Outcome ModuleHost::press(const std::string& screen, const std::string& command)
         }
     }
     return outcome;
+}
+
+std::string ModuleHost::busyStatus(const std::string& command) const {
+    const auto& busy = session_.info().busy;
+    auto it = busy.find(session_.state().qualify(command));
+    // A press the session refuses runs nothing, so nothing is announced.
+    if (it == busy.end() || !session_.refusal(command).empty()) return "";
+    return it->second;
+}
+
+void ModuleHost::showStatus(const std::string& button, bool on) {
+    session_.state().setVisible(button, on);
+    if (!on) return;
+    // The calculation holds the event loop, so the notice is painted now or never.
+    if (ScreenWindow* w = window(screenOf(button))) {
+        if (QWidget* notice = w->control(button.substr(button.find('.') + 1))) notice->setVisible(true);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        w->repaint();
+    }
 }
 
 void ModuleHost::applyScreenEffects(const Outcome& outcome, ScreenWindow* caller) {

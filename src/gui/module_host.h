@@ -61,6 +61,9 @@ private:
     ScreenWindow* ensureWindow(const std::string& screen);
     const ScreenDecl* declared(const std::string& screen) const;
     void applyScreenEffects(const Outcome& outcome, ScreenWindow* caller);
+    // The status button a command shows while it runs; "" for none.
+    std::string busyStatus(const std::string& command) const;
+    void showStatus(const std::string& button, bool on);
     // A picture to a file through the save dialog, or to the printer.
     void pictureOut(const ScreenEffect& e, ScreenWindow* caller);
     void refresh(ScreenWindow* w);

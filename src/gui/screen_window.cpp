@@ -56,6 +56,27 @@ constexpr int kGridMinimumHeight = 160;
 constexpr int kWidestButton = 420;  // a button does not run across a maximised window
 constexpr int kGridRowsShown = 10;  // more rows than this scroll
 
+// Wide enough for its longest item, and for a few words while a list the module
+// fills is still empty.
+void fitListWidth(QListWidget* list) {
+    int widest = list->count() == 0 ? 120 : 0;
+    for (int i = 0; i < list->count(); ++i)
+        widest = std::max(widest, list->fontMetrics().horizontalAdvance(list->item(i)->text()));
+    list->setMinimumWidth(std::min(widest + 36, 360));
+    // A wider window gives a list no more to show.
+    list->setMaximumWidth(std::max(list->minimumWidth(), 280));
+}
+
+// The items the module gives a list now; the widget is rebuilt only when they changed.
+void showItems(QListWidget* list, const std::vector<std::string>& items) {
+    bool same = list->count() == static_cast<int>(items.size());
+    for (int i = 0; same && i < list->count(); ++i) same = list->item(i)->text() == q(items[static_cast<std::size_t>(i)]);
+    if (same) return;
+    list->clear();
+    for (const auto& item : items) list->addItem(q(item));
+    fitListWidth(list);
+}
+
 // A short table shows all its rows without a scroll bar; a long one scrolls.
 void fitGridHeight(QTableWidget* table) {
     const int rows = std::min(table->rowCount(), kGridRowsShown);
@@ -224,12 +245,13 @@ ScreenWindow::ControlParts ScreenWindow::makeControl(const ControlDecl& c, const
             const int rows = c.height > 0 ? c.height : std::min<int>(static_cast<int>(c.items.size()), 4);
             const int rowHeight = list->sizeHintForRow(0) > 0 ? list->sizeHintForRow(0) : 18;
             list->setFixedHeight(std::max(1, rows) * rowHeight + 2 * list->frameWidth() + 2);
-            int widest = 0;
-            for (const auto& item : c.items)
-                widest = std::max(widest, list->fontMetrics().horizontalAdvance(q(item)));
-            list->setMinimumWidth(std::min(widest + 36, 360));
-            // A wider window gives a list no more to show.
-            list->setMaximumWidth(std::max(list->minimumWidth(), 280));
+            fitListWidth(list);
+            // A module may answer the pick at once (a bar whose diagrams are drawn
+            // again), so the click reaches it as a command of the list's name.
+            const std::string name = c.name;
+            connect(list, &QListWidget::itemClicked, this, [this, name] {
+                if (onCommand) onCommand(name);
+            });
             parts.widget = list;
             break;
         }
@@ -386,6 +408,7 @@ void ScreenWindow::loadFrom(const FormState& state) {
             }
             case ControlKind::List: {
                 auto* list = static_cast<QListWidget*>(w);
+                showItems(list, state.items(name));
                 const QString text = q(state.text(name));
                 QListWidgetItem* match = nullptr;
                 for (int i = 0; i < list->count(); ++i)

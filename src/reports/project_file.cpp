@@ -162,10 +162,7 @@ std::size_t columnCount(const FormState& state, const std::string& name, const C
 std::string scalarField(const FormState& state, const std::string& name, const ControlDecl& decl) {
     const std::string& text = state.text(name);
     switch (decl.kind) {
-        case ControlKind::List: {
-            auto it = std::find(decl.items.begin(), decl.items.end(), text);
-            return std::to_string(it == decl.items.end() ? -1 : static_cast<long>(it - decl.items.begin()));
-        }
+        case ControlKind::List: return std::to_string(state.selectedIndex(name));
         case ControlKind::Option:
         case ControlKind::Check: return state.option(name) ? kTrueField : kFalseField;
         default: return quoted(text);
@@ -219,9 +216,10 @@ private:
         switch (decl.kind) {
             case ControlKind::List: {
                 long index = 0;
-                if (!readInteger(f, index) || index < -1 || index >= static_cast<long>(decl.items.size()))
+                const std::vector<std::string>& items = state.items(name);
+                if (!readInteger(f, index) || index < -1 || index >= static_cast<long>(items.size()))
                     return badField(*rec, "a lista não tem o item " + f.text);
-                state.setText(name, index < 0 ? "" : decl.items[static_cast<std::size_t>(index)]);
+                state.setText(name, index < 0 ? "" : items[static_cast<std::size_t>(index)]);
                 return "";
             }
             case ControlKind::Option:

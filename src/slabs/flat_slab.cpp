@@ -245,6 +245,7 @@ ModuleInfo Form40::info() const {
     i.printKey = "Form40";
     i.calculate = "Command3";
     i.files = true;
+    i.busy = {{"Form40.Command3", "Form40.Command13"}};
     return i;
 }
 
@@ -272,7 +273,9 @@ std::vector<ScreenDecl> Form40::screens() const {
     main.frame("Frame5", "", 2, 0, 1, 2)
         .command("Command3", "&CALCULAR", "Calcular a laje")
         .command("Command2", "Momentos e Flecha", "Ver diagramas de momentos e flecha")
-        .disabled();
+        .disabled()
+        .command("Command13", "Calculando...Aguarde.")
+        .hidden();
 
     ScreenBuilder columns("Form40b", "Dados dos pilares", false);
     columns.frame("Frame1", "Dados dos pilares", 0, 0)

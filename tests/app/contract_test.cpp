@@ -10,6 +10,8 @@
 #include "app/key_filters.h"
 #include "app/module.h"
 #include "app/start_defaults.h"
+#include "reports/project_file.h"
+#include "../reports/file_module.h"
 
 using namespace morve;
 
@@ -134,6 +136,28 @@ TEST(FormState, QualifiesNamesAndKeepsGroupsListsAndGrids) {
     EXPECT_EQ(g[2][0], "2");
     EXPECT_EQ(s.cell("FormAb.Grade1", 9, 9), "");  // outside the grid reads as blank
     EXPECT_EQ(s.cellNumber("FormAb.Grade1", 1, 0), 1);
+}
+
+// A list the module fills at run time: a pick survives new items that still hold
+// it and is dropped otherwise, and a project file keeps the pick by its place
+// among the items shown.
+TEST(FormState, ListsTakeTheItemsTheModuleGivesThem) {
+    const FileModule module;
+    FormState s = ModuleSession(module, StartDefaults{}).state();
+    EXPECT_EQ(s.selectedIndex("List1"), 1);  // "C25" declared
+    s.setItems("List1", {"V1", "V2", "V3"});
+    EXPECT_EQ(s.selectedIndex("List1"), -1);
+    s.setText("List1", "V3");
+    s.setItems("List1", {"V0", "V3"});
+    EXPECT_EQ(s.selectedIndex("List1"), 1);
+
+    const std::string file = writeProjectText(module, s);
+    FormState opened = ModuleSession(module, StartDefaults{}).state();
+    opened.setItems("List1", {"Q1", "Q2"});
+    ASSERT_EQ(readProjectText(module, file, opened).message, "");
+    EXPECT_EQ(opened.text("List1"), "Q2");
+    opened.setItems("List1", {"Q1"});
+    EXPECT_NE(readProjectText(module, file, opened).message, "") << "the saved place is no item now";
 }
 
 TEST(ModuleSession, RefusesWhatTheScreensDoNotOffer) {

@@ -155,15 +155,33 @@ TEST(Form33, PortalRunFillsTheTables) {
     EXPECT_TRUE(has("Deslocamentos médio= 0.071 cm"));
     EXPECT_TRUE(has("Força vertical total atribuída ao pórtico= 400 kN"));
 
-    // The diagrams of the beam and the column picked.
-    run.set({{"Form33e.Text4", "1"}, {"Form33e.Text5", "2"}});
+    // The bars are listed for their diagrams in the order of the tables, the first
+    // one picked; a column picked on its own screen is the one drawn, and without a
+    // pick the screen says so where the pick is made.
+    EXPECT_EQ(s.items("Form33e.List1"), std::vector<std::string>{"Nível 1 - Vão 1"});
+    EXPECT_EQ(s.items("Form33e.List2"), (std::vector<std::string>{"Andar 1 - Pilar 1", "Andar 1 - Pilar 2"}));
+    EXPECT_EQ(s.text("Form33e.List1"), "Nível 1 - Vão 1");
+    run.set({{"Form33e.List2", "Andar 1 - Pilar 2"}});
     EXPECT_TRUE(run.press("Form33e.Command1").completed);
     EXPECT_TRUE(run.press("Form33e.Command3").completed);
+    EXPECT_TRUE(run.session.screenShown("Form33h"));
     for (const char* p : {"Form33g.Picture1", "Form33g.Picture2", "Form33h.Picture1", "Form33h.Picture2", "Form33h.Picture3", "Form33f.Picture1"})
         EXPECT_FALSE(run.session.module().drawing(p, s).empty()) << p;
-    run.set({{"Form33g.Text1", "2"}});
-    expectStop(run.prompter, run.press("Form33g.Command1"), "Forneça o número de uma barra da tabela de resultados.",
-               MessageKind::Warning, "Form33g.Text1");
+    auto drawnBar = [&] {
+        for (const Shape& shape : run.session.module().drawing("Form33h.Picture3", s).shapes)
+            if (const auto* l = std::get_if<Label>(&shape.geometry); l && l->text.rfind("Andar", 0) == 0) return l->text;
+        return std::string();
+    };
+    EXPECT_EQ(drawnBar().substr(0, 17), "Andar 1 - Pilar 2");
+    run.set({{"Form33h.List1", "Andar 1 - Pilar 1"}});
+    EXPECT_TRUE(run.press("Form33h.List1").completed);
+    EXPECT_EQ(drawnBar().substr(0, 17), "Andar 1 - Pilar 1");
+    run.set({{"Form33g.List1", ""}});
+    expectStop(run.prompter, run.press("Form33g.Command1"), txtframe::kPickBar, MessageKind::Warning,
+               "Form33g.List1");
+    // The bar lists are results, the mortar list an input: a project file keeps only the input.
+    for (const std::string& f : run.session.module().projectFields())
+        EXPECT_TRUE(f.find(".List") == std::string::npos || f == "Form33i.List1") << f;
 }
 
 // P-delta on the screen: near the sway load the iteration stops with its message and

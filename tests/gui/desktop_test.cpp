@@ -121,6 +121,24 @@ private slots:
         QVERIFY(form7->height() - (answer->mapTo(form7, QPoint(0, 0)).y() + answer->height()) < 40);
     }
 
+    // A long calculation shows its status button while it runs and hides it after.
+    // The first check of an empty screen stops each one with a box: the box comes
+    // up in the middle of the run, which is when the notice must stand.
+    void statusButtonStandsWhileTheCalculationRuns() {
+        const char* runs[][3] = {{"Form16", "Command4", "Command11"}, {"Form24f", "Command7", "Command13"},
+                                 {"Form40", "Command3", "Command13"}, {"Form33", "Command3", "Command13"}};
+        for (const auto& [module, command, notice] : runs) {
+            ModuleUser user;
+            QVERIFY2(user.open(module), module);
+            QWidget* status = user.control(module, notice);
+            QVERIFY2(status && !status->isVisible(), module);
+            int boxes = 0, shown = 0;
+            user.prompter().onBox = [&] { ++boxes, shown += status->isVisible(); };
+            user.click(module, command);
+            QVERIFY2(boxes > 0 && shown == boxes && !status->isVisible(), module);
+        }
+    }
+
     void helpPagesWriteDecimalsWithAPoint() {
         const QDir folder(qEnvironmentVariable("MORVE_DATA_DIR") + "/ajuda");
         const QStringList files = folder.entryList({"*.html", "*.txt"});
