@@ -41,7 +41,7 @@ const std::vector<CatalogueRow>& ModuleCatalogue::rows() {
     {{"tirante"}, "Armaduras assimétricas", "Command50", "Form18", {"Form18"}, "Dimensionamento à Flexo-Tração com Armadura Assimétrica", "Ajuda18"},
     {{"tirante"}, "Armaduras simétricas", "Command51", "Form19", {"Form19"}, "Dimensionamento à Flexo-Tração com Armadura Simétrica", "Ajuda19"},
     {{"Escadas"}, "Helicoidais", "Command52", "Form41", {"Form41"}, "Cálculo de esforços em vigas, rampas e escadas helicoidais", "Ajuda41"},
-    {{"Escadas"}, "Autoportantes", "Command53", "Form42", {"Form42"}, "Cálculo de esforços em escadas autoportantes de dois lances", ""},
+    {{"Escadas"}, "Autoportantes", "Command53", "Form42", {"Form42"}, "Cálculo de esforços em escadas autoportantes de dois lances", "Ajuda42"},
     };
     return table;
 }
@@ -124,6 +124,7 @@ const std::vector<HelpListRow>& ModuleCatalogue::helpList() {
     {"Tirantes - Armaduras assimétricas", "Ajuda18"},
     {"Tirantes - Armaduras simétricas", "Ajuda19"},
     {"Escadas - Helicoidais", "Ajuda41"},
+    {"Escadas - Autoportantes", "Ajuda42"},
     };
     return list;
 }

@@ -13,7 +13,10 @@ Point isometric(const Vec3& p) {
 
 void SpacePicture::path(const std::vector<Vec3>& points, Colour colour, double width) {
     std::vector<Point> view;
-    for (const Vec3& p : points) view.push_back(isometric(p));
+    for (const Vec3& p : points) {
+        view.push_back(isometric(p));
+        extend(view.back());
+    }
     drawing.polyline(std::move(view), false, colour, width);
 }
 
@@ -40,6 +43,18 @@ void SpacePicture::support(const Vec3& at, double size) {
         drawing.line({x, p.y + h}, {x - h, p.y + 2 * h});
     }
     drawing.line(p, {p.x, p.y + h});
+}
+
+void SpacePicture::extend(const Point& p) {
+    left_ = std::min(left_, p.x);
+    right_ = std::max(right_, p.x);
+    bottom_ = std::max(bottom_, p.y);
+}
+
+void SpacePicture::caption(std::string words, Colour colour) {
+    if (left_ > right_) return;
+    drawing.text({(left_ + right_) / 2, bottom_ + 0.06 * (right_ - left_)}, std::move(words), 9, TextAlign::Centre,
+                 colour);
 }
 
 double displacementScale(const SpaceModel& m, const SpaceResults& r, double share) {

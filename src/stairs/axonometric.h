@@ -20,6 +20,12 @@ struct SpacePicture {
     void axes(const Vec3& origin, double size);
     // A support: a short hatched mark below the point.
     void support(const Vec3& at, double size);
+    // A line of text centred under everything drawn so far.
+    void caption(std::string text, Colour colour = colours::black);
+
+private:
+    void extend(const Point& p);
+    double left_ = 1e300, right_ = -1e300, bottom_ = -1e300;
 };
 
 // The bars' axes undeformed (grey) and displaced by `scale` times the computed

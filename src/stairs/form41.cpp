@@ -58,14 +58,15 @@ std::optional<Helix> readHelix(const FormState& s, CheckSequence& checks) {
 
 Outcome calculate(FormState& s, Prompter& prompter) {
     CheckSequence checks(prompter);
-    clearStairResults(s);
+    clearStairResults(s, "Text13");
     const std::optional<Helix> h = readHelix(s, checks);
     if (!h) return checks.outcome();
     const HelixResults r = analyseHelix(*h);
-    checks.warnIf(!r.solved, kStairOutOfRange, "Text5");
+    checks.warnIf(!r.solved && r.frame.mechanism, kStairMechanism, "Option3")
+        .warnIf(!r.solved, kStairOutOfRange, "Text5");
     if (checks.stopped()) return checks.outcome();
     writeStairResults(s, {{kSections[0], r.base}, {kSections[1], r.top}, {kSections[2], r.centre}}, r.baseForce,
-                      r.baseMoment, r.topForce, r.topMoment, r.deflection);
+                      r.baseMoment, r.topForce, r.topMoment, r.deflection, "Text13");
     return Outcome::done()
         .then(EffectKind::EnableControl, printButton("Form41"))
         .then(EffectKind::EnableControl, "Form41.Command2");
@@ -96,8 +97,7 @@ Drawing helixPicture(const Helix& h) {
     p.text(helixPoint(h, 0), "  Centro");
     p.axes({0, 0, 0}, h.radius / 2);
     p.drawing.fitContent = true;
-    p.drawing.text(isometric({0, 0, -h.radius / 4}), "Deformada em vermelho (ampliada)", 9, TextAlign::Centre,
-                   colours::red);
+    p.caption("Deformada em vermelho (ampliada)", colours::red);
     return p.drawing;
 }
 
@@ -130,7 +130,7 @@ public:
             .command("Command1", "&CALCULAR", "Calcular os esforços")
             .command("Command2", "Ver desenho", "A hélice em perspectiva, com a deformada")
             .disabled();
-        stairResultFrame(main, 3, kSections);
+        stairResultFrame(main, 3, kSections, "Text13");
 
         ScreenBuilder picture("Form41b", "Escada helicoidal", false);
         picture.frame("Frame1", "", 0, 0).picture("Picture1", 640, 520);
@@ -184,7 +184,7 @@ public:
         out.write("Acidental: q = ", s.text("Text8"), " kN/m2");
         out.write("Peso próprio da laje: 25 kN/m3");
         out.blank();
-        reportStairResults(out, s, {"Esforços na base:", "Esforços no topo:", "Esforços no centro:"});
+        reportStairResults(out, s, {"Esforços na base:", "Esforços no topo:", "Esforços no centro:"}, "Text13");
         ScriptedPrompter quiet;
         CheckSequence checks(quiet);
         const std::optional<Helix> h = readHelix(s, checks);

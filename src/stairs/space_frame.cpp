@@ -201,7 +201,10 @@ SpaceResults analyseSpaceFrame(const SpaceModel& m) {
                 load(n * kDof + d + 1) = 0;
             }
     BandRestrain(band, restraints, kDof);
-    if (!BandCholesky(band)) return r;
+    if (!BandCholesky(band)) {
+        r.mechanism = true;
+        return r;
+    }
     BandSolve(band, load);
 
     r.displacement.resize(nodes);
@@ -247,6 +250,7 @@ SpaceResults analyseSpaceFrame(const SpaceModel& m) {
         if (!finite(r.reactionForce[n]) || !finite(r.reactionMoment[n])) return r;
     }
     r.solved = balanced(m, r);
+    r.mechanism = !r.solved;
     return r;
 }
 

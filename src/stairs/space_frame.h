@@ -63,6 +63,7 @@ using EndForces = std::array<double, 6>;
 
 struct SpaceResults {
     bool solved = false;  // false: a mechanism, or numbers out of range
+    bool mechanism = false;  // the supports leave the structure free to move
     std::vector<Vec3> displacement, rotation;  // global axes, per node
     // Internal forces at each bar's ends in its local axes: what the part beyond
     // the section (towards `to`) exerts on the part before it.

@@ -47,7 +47,8 @@ void stairOptionFrames(ScreenBuilder& s, int row) {
 bool clockwiseRise(const FormState& s) { return s.option("Option1"); }
 bool fixedEnds(const FormState& s) { return !s.option("Option4"); }
 
-void stairResultFrame(ScreenBuilder& s, int row, const std::vector<std::string>& sections) {
+void stairResultFrame(ScreenBuilder& s, int row, const std::vector<std::string>& sections,
+                      const std::string& deflectionBox) {
     s.frame("Frame6", "Resultados (cargas de serviço)", row, 0, 1, 2)
         .grid(kForces, resultGrid({"Seção", "N (kN)", "Vy (kN)", "Vz (kN)", "T (kNm)", "My (kNm)", "Mz (kNm)"},
                                   static_cast<int>(sections.size())))
@@ -57,18 +58,19 @@ void stairResultFrame(ScreenBuilder& s, int row, const std::vector<std::string>&
                          "traciona a face inferior")
         .grid(kReactions, resultGrid({"Apoio", "Rx (kN)", "Ry (kN)", "Rz (kN)", "Mxe (kNm)", "Mye (kNm)", "Mze (kNm)"}, 2))
         .label("Label3", "Reações que os apoios exercem sobre a escada, nos eixos globais X, Y, Z (Z para cima)")
-        .result("Text13", "Flecha máxima = ", "cm");
+        .result(deflectionBox, "Flecha máxima = ", "cm");
 }
 
-void clearStairResults(FormState& s) {
+void clearStairResults(FormState& s, const std::string& deflectionBox) {
     s.grid(kForces).resize(1);
     s.grid(kReactions).resize(1);
-    s.setText("Text13", "");
+    s.setText(deflectionBox, "");
 }
 
 void writeStairResults(FormState& s, const std::vector<SectionRow>& sections, const Vec3& baseForce,
-                       const Vec3& baseMoment, const Vec3& topForce, const Vec3& topMoment, double deflectionM) {
-    clearStairResults(s);
+                       const Vec3& baseMoment, const Vec3& topForce, const Vec3& topMoment, double deflectionM,
+                       const std::string& deflectionBox) {
+    clearStairResults(s, deflectionBox);
     for (const SectionRow& r : sections) {
         std::vector<std::string> row{r.name};
         for (double v : r.forces) row.push_back(shown(v));
@@ -79,7 +81,7 @@ void writeStairResults(FormState& s, const std::vector<SectionRow>& sections, co
     };
     reaction("Base", baseForce, baseMoment);
     reaction("Topo", topForce, topMoment);
-    s.setText("Text13", shown(deflectionM * 100));
+    s.setText(deflectionBox, shown(deflectionM * 100));
 }
 
 void checkStairConcrete(CheckSequence& checks, const FormState& s) { checkSlabConcrete(checks, s); }
@@ -106,7 +108,8 @@ void reportStairOptions(ReportWriter& out, const FormState& s) {
     out.blank();
 }
 
-void reportStairResults(ReportWriter& out, const FormState& s, const std::vector<std::string>& titles) {
+void reportStairResults(ReportWriter& out, const FormState& s, const std::vector<std::string>& titles,
+                        const std::string& deflectionBox) {
     const GridRows& forces = s.grid(kForces);
     const GridRows& reactions = s.grid(kReactions);
     auto cell = [](const GridRows& g, std::size_t r, std::size_t c) -> std::string {
@@ -132,7 +135,7 @@ void reportStairResults(ReportWriter& out, const FormState& s, const std::vector
                   tab(40), "Mze= ", cell(reactions, i + 1, 6), " kNm");
         out.blank();
     }
-    out.write("Flecha máxima = ", s.text("Text13"), " cm");
+    out.write("Flecha máxima = ", s.text(deflectionBox), " cm");
 }
 
 }  // namespace morve

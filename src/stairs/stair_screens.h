@@ -22,9 +22,10 @@ bool clockwiseRise(const FormState& s);
 bool fixedEnds(const FormState& s);
 
 // The results frame: Grade1 internal forces at the named sections, Grade2 the
-// reactions at base and top, Text13 the largest deflection, with the words that
-// say which way each points.
-void stairResultFrame(ScreenBuilder& s, int row, const std::vector<std::string>& sections);
+// reactions at base and top, `deflectionBox` the largest deflection, with the words
+// that say which way each points.
+void stairResultFrame(ScreenBuilder& s, int row, const std::vector<std::string>& sections,
+                      const std::string& deflectionBox);
 
 // One named section's N, Vy, Vz, T, My, Mz.
 struct SectionRow {
@@ -32,8 +33,9 @@ struct SectionRow {
     EndForces forces;
 };
 void writeStairResults(FormState& s, const std::vector<SectionRow>& sections, const Vec3& baseForce,
-                       const Vec3& baseMoment, const Vec3& topForce, const Vec3& topMoment, double deflectionM);
-void clearStairResults(FormState& s);
+                       const Vec3& baseMoment, const Vec3& topForce, const Vec3& topMoment, double deflectionM,
+                       const std::string& deflectionBox);
+void clearStairResults(FormState& s, const std::string& deflectionBox);
 
 // fck, Ecs and the creep coefficient, each with its question.
 void checkStairConcrete(CheckSequence& checks, const FormState& s);
@@ -49,8 +51,12 @@ double stairModulus(const FormState& s);
 // the rows of Grade1 as the report heads them ("Esforços na base:").
 void reportStairConcrete(ReportWriter& out, const FormState& s);
 void reportStairOptions(ReportWriter& out, const FormState& s);
-void reportStairResults(ReportWriter& out, const FormState& s, const std::vector<std::string>& titles);
+void reportStairResults(ReportWriter& out, const FormState& s, const std::vector<std::string>& titles,
+                        const std::string& deflectionBox);
 
+inline const std::string kStairMechanism =
+    "Com estes apoios a escada não é estável: ela pode girar em torno da reta que liga os apoios. Use "
+    "extremidades engastadas ou altere a geometria.";
 inline const std::string kStairOutOfRange =
     "Os valores fornecidos levam a resultados fora dos limites numéricos. Revise os dados.";
 

@@ -43,11 +43,15 @@ TEST(Form41, ChecksInOrder) {
         {{{"Text7", "-2"}}, {}, "A carga permanente g não pode ser negativa.", "Form41.Text7"},
         {{{"Text8", "-3"}}, {}, "A carga acidental q não pode ser negativa.", "Form41.Text8"},
         {{{"Text5", "1" + std::string(300, '0')}}, {}, "Os valores fornecidos levam a resultados fora dos limites numéricos. Revise os dados.", "Form41.Text5"},
+        // Apoiadas, 2a = 300: R^2 sin 2a + H^2 / 2a = 0, the supports' torsion
+        // restraints both square to the line through them.
+        {{{"Option4", "true"}, {"Text4", "300"}, {"Text5", "1.6"}, {"Text6", std::to_string(std::sqrt(1.6 * 1.6 * std::sqrt(3.0) / 2 * 5 * std::acos(-1.0) / 3))}}, {}, "Com estes apoios a escada não é estável: ela pode girar em torno da reta que liga os apoios. Use extremidades engastadas ou altere a geometria.", "Form41.Option3"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.message);
         BeamRun run("Form41", c.answers);
         run.set(kStair).set(c.set);
+        if (c.set.count("Option4")) run.session.state().setOption("Option4", true);
         const Outcome o = run.press("Command1");
         expectStop(run.prompter, o, c.message, c.kind, c.focus);
         EXPECT_EQ(run.text("Text13"), "");
