@@ -3,13 +3,13 @@
 #include <cmath>
 #include <optional>
 
-#include "app/module.h"
+#include "app/prompter.h"
 #include "app/numbers.h"
 #include "basis/messages.h"
 #include "reports/report_writer.h"
-#include "slabs/slab_basis.h"
 #include "stairs/axonometric.h"
 #include "stairs/helix.h"
+#include "stairs/stair_module.h"
 #include "stairs/stair_screens.h"
 
 namespace morve {
@@ -56,22 +56,6 @@ std::optional<Helix> readHelix(const FormState& s, CheckSequence& checks) {
     return typedHelix(s);
 }
 
-Outcome calculate(FormState& s, Prompter& prompter) {
-    CheckSequence checks(prompter);
-    clearStairResults(s, "Text13");
-    const std::optional<Helix> h = readHelix(s, checks);
-    if (!h) return checks.outcome();
-    const HelixResults r = analyseHelix(*h);
-    checks.warnIf(!r.solved && r.frame.mechanism, kStairMechanism, "Option3")
-        .warnIf(!r.solved, kStairOutOfRange, "Text5");
-    if (checks.stopped()) return checks.outcome();
-    writeStairResults(s, {{kSections[0], r.base}, {kSections[1], r.top}, {kSections[2], r.centre}}, r.baseForce,
-                      r.baseMoment, r.topForce, r.topMoment, r.deflection, "Text13");
-    return Outcome::done()
-        .then(EffectKind::EnableControl, printButton("Form41"))
-        .then(EffectKind::EnableControl, "Form41.Command2");
-}
-
 // The helix in isometric view: its two edges, a cross line every few bars, the
 // axis displaced (red), the supports and the global axes.
 Drawing helixPicture(const Helix& h) {
@@ -101,18 +85,14 @@ Drawing helixPicture(const Helix& h) {
     return p.drawing;
 }
 
-class Form41 : public Module {
+class Form41 : public StairModule {
 public:
-    ModuleInfo info() const override {
-        ModuleInfo i;
-        i.key = "Form41";
-        i.unloads = {"FormAjuda", "FormAbrir", "FormSalvar", "Form41b"};
-        i.printKey = "Form41";
-        i.files = true;
-        return i;
-    }
+    Form41()
+        : StairModule({"Form41", "Escada helicoidal", 10, "Text13",
+                       {"Esforços na base:", "Esforços no topo:", "Esforços no centro:"}}) {}
 
-    std::vector<ScreenDecl> screens() const override {
+protected:
+    ScreenDecl mainScreen() const override {
         ScreenBuilder main("Form41", "CÁLCULO DE ESFORÇOS EM VIGAS, RAMPAS E ESCADAS HELICOIDAIS");
         stairConcreteFrame(main, 0, 0);
         main.frame("Frame2", "Geometria", 0, 1)
@@ -131,46 +111,31 @@ public:
             .command("Command2", "Ver desenho", "A hélice em perspectiva, com a deformada")
             .disabled();
         stairResultFrame(main, 3, kSections, "Text13");
-
-        ScreenBuilder picture("Form41b", "Escada helicoidal", false);
-        picture.frame("Frame1", "", 0, 0).picture("Picture1", 640, 520);
-        picture.frame("Frame2", "", 1, 0)
-            .command("Command2", "Im&primir", "Imprimir o desenho")
-            .command("Command3", "&Salvar", "Salvar a imagem em arquivo")
-            .command("Command1", "&Voltar");
-        return {main.build(), picture.build()};
+        return main.build();
     }
 
-    void load(FormState& state, const StartDefaults& defaults) const override { loadSlabDefaults(state, defaults); }
-
-    std::vector<std::string> projectFields() const override {
-        std::vector<std::string> f;
-        for (int k = 1; k <= 10; ++k) f.push_back("Form41.Text" + std::to_string(k));
-        for (int k = 1; k <= 4; ++k) f.push_back("Form41.Option" + std::to_string(k));
-        return f;
+    Outcome calculate(FormState& s, Prompter& prompter) const override {
+        CheckSequence checks(prompter);
+        clearStairResults(s, "Text13");
+        const std::optional<Helix> h = readHelix(s, checks);
+        if (!h) return checks.outcome();
+        const HelixResults r = analyseHelix(*h);
+        checks.warnIf(!r.solved && r.frame.mechanism, kStairMechanism, "Option3")
+            .warnIf(!r.solved, kStairOutOfRange, "Text5");
+        if (checks.stopped()) return checks.outcome();
+        writeStairResults(s, {{kSections[0], r.base}, {kSections[1], r.top}, {kSections[2], r.centre}}, r.baseForce,
+                          r.baseMoment, r.topForce, r.topMoment, r.deflection, "Text13");
+        return calculated();
     }
 
-    Outcome press(const std::string& command, FormState& s, Prompter& prompter) const override {
-        const std::string c = s.qualify(command);
-        if (c == "Form41.Command1") return calculate(s, prompter);
-        if (c == "Form41.Command2") return switchTo("Form41", "Form41b");
-        if (c == "Form41b.Command1") return switchTo("Form41b", "Form41");
-        if (c == "Form41b.Command2") return Outcome::done().then(EffectKind::PrintPicture, "Form41b.Picture1");
-        if (c == "Form41b.Command3") return Outcome::done().then(EffectKind::SavePicture, "Form41b.Picture1");
-        return Outcome::stop();
-    }
-
-    Drawing drawing(const std::string& picture, const FormState& s) const override {
-        if (s.qualify(picture) != "Form41b.Picture1") return {};
+    Drawing picture(const FormState& s) const override {
         ScriptedPrompter quiet;
         CheckSequence checks(quiet);
         const std::optional<Helix> h = readHelix(s, checks);
         return h ? helixPicture(*h) : Drawing{};
     }
 
-    void report(const std::string& key, const FormState& s, ReportWriter& out) const override {
-        if (key != "Form41") return;
-        reportStairConcrete(out, s);
+    void reportData(const FormState& s, ReportWriter& out) const override {
         out.write("Geometria:");
         out.write("Abertura total 2a = ", s.text("Text4"), " graus");
         out.write("Raio médio R = ", s.text("Text5"), " m");
@@ -184,11 +149,6 @@ public:
         out.write("Acidental: q = ", s.text("Text8"), " kN/m2");
         out.write("Peso próprio da laje: 25 kN/m3");
         out.blank();
-        reportStairResults(out, s, {"Esforços na base:", "Esforços no topo:", "Esforços no centro:"}, "Text13");
-        ScriptedPrompter quiet;
-        CheckSequence checks(quiet);
-        const std::optional<Helix> h = readHelix(s, checks);
-        if (h && !s.text("Text13").empty()) out.picture(helixPicture(*h), 20);
     }
 };
 

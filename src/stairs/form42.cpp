@@ -4,10 +4,10 @@
 #include <cmath>
 #include <optional>
 
-#include "app/module.h"
+#include "app/prompter.h"
 #include "reports/report_writer.h"
-#include "slabs/slab_basis.h"
 #include "stairs/axonometric.h"
+#include "stairs/stair_module.h"
 #include "stairs/stair_screens.h"
 #include "stairs/two_flights.h"
 
@@ -51,29 +51,6 @@ std::optional<TwoFlights> readStair(const FormState& s, CheckSequence& checks) {
     return t;
 }
 
-Outcome calculate(FormState& s, Prompter& prompter) {
-    CheckSequence checks(prompter);
-    clearStairResults(s, kDeflection);
-    const std::optional<TwoFlights> t = readStair(s, checks);
-    if (!t) return checks.outcome();
-    const TwoFlightResults r = analyseTwoFlights(*t);
-    checks.warnIf(!r.solved && r.frame.mechanism, kStairMechanism, "Option3")
-        .warnIf(!r.solved, kStairOutOfRange, "Text4");
-    if (checks.stopped()) return checks.outcome();
-    writeStairResults(s,
-                      {{kSections[0], r.base},
-                       {kSections[1], r.top},
-                       {kSections[2], r.flight1Max},
-                       {kSections[3], r.flight2Max},
-                       {kSections[4], r.flight1Joint},
-                       {kSections[5], r.flight2Joint},
-                       {kSections[6], r.landingCentre}},
-                      r.baseForce, r.baseMoment, r.topForce, r.topMoment, r.deflection, kDeflection);
-    return Outcome::done()
-        .then(EffectKind::EnableControl, printButton("Form42"))
-        .then(EffectKind::EnableControl, "Form42.Command2");
-}
-
 // The slabs' outlines in isometric view, the bar model displaced (red), the
 // supports and the global axes.
 Drawing stairPicture(const TwoFlights& t) {
@@ -97,18 +74,12 @@ Drawing stairPicture(const TwoFlights& t) {
     return p.drawing;
 }
 
-class Form42 : public Module {
+class Form42 : public StairModule {
 public:
-    ModuleInfo info() const override {
-        ModuleInfo i;
-        i.key = "Form42";
-        i.unloads = {"FormAjuda", "FormAbrir", "FormSalvar", "Form42b"};
-        i.printKey = "Form42";
-        i.files = true;
-        return i;
-    }
+    Form42() : StairModule({"Form42", "Escada autoportante", 14, kDeflection, kTitles}) {}
 
-    std::vector<ScreenDecl> screens() const override {
+protected:
+    ScreenDecl mainScreen() const override {
         ScreenBuilder main("Form42", "CÁLCULO DE ESFORÇOS EM ESCADAS AUTOPORTANTES DE DOIS LANCES");
         stairConcreteFrame(main, 0, 0);
         main.frame("Frame2", "Geometria (m)", 0, 1)
@@ -133,45 +104,38 @@ public:
             .disabled();
         stairResultFrame(main, 4, kSections, kDeflection);
 
-        ScreenBuilder picture("Form42b", "Escada autoportante", false);
-        picture.frame("Frame1", "", 0, 0).picture("Picture1", 640, 520);
-        picture.frame("Frame2", "", 1, 0)
-            .command("Command2", "Im&primir", "Imprimir o desenho")
-            .command("Command3", "&Salvar", "Salvar a imagem em arquivo")
-            .command("Command1", "&Voltar");
-        return {main.build(), picture.build()};
+        return main.build();
     }
 
-    void load(FormState& state, const StartDefaults& defaults) const override { loadSlabDefaults(state, defaults); }
-
-    std::vector<std::string> projectFields() const override {
-        std::vector<std::string> f;
-        for (int k = 1; k <= 14; ++k) f.push_back("Form42.Text" + std::to_string(k));
-        for (int k = 1; k <= 4; ++k) f.push_back("Form42.Option" + std::to_string(k));
-        return f;
+    Outcome calculate(FormState& s, Prompter& prompter) const override {
+        CheckSequence checks(prompter);
+        clearStairResults(s, kDeflection);
+        const std::optional<TwoFlights> t = readStair(s, checks);
+        if (!t) return checks.outcome();
+        const TwoFlightResults r = analyseTwoFlights(*t);
+        checks.warnIf(!r.solved && r.frame.mechanism, kStairMechanism, "Option3")
+            .warnIf(!r.solved, kStairOutOfRange, "Text4");
+        if (checks.stopped()) return checks.outcome();
+        writeStairResults(s,
+                          {{kSections[0], r.base},
+                           {kSections[1], r.top},
+                           {kSections[2], r.flight1Max},
+                           {kSections[3], r.flight2Max},
+                           {kSections[4], r.flight1Joint},
+                           {kSections[5], r.flight2Joint},
+                           {kSections[6], r.landingCentre}},
+                          r.baseForce, r.baseMoment, r.topForce, r.topMoment, r.deflection, kDeflection);
+        return calculated();
     }
 
-    Outcome press(const std::string& command, FormState& s, Prompter& prompter) const override {
-        const std::string c = s.qualify(command);
-        if (c == "Form42.Command1") return calculate(s, prompter);
-        if (c == "Form42.Command2") return switchTo("Form42", "Form42b");
-        if (c == "Form42b.Command1") return switchTo("Form42b", "Form42");
-        if (c == "Form42b.Command2") return Outcome::done().then(EffectKind::PrintPicture, "Form42b.Picture1");
-        if (c == "Form42b.Command3") return Outcome::done().then(EffectKind::SavePicture, "Form42b.Picture1");
-        return Outcome::stop();
-    }
-
-    Drawing drawing(const std::string& picture, const FormState& s) const override {
-        if (s.qualify(picture) != "Form42b.Picture1") return {};
+    Drawing picture(const FormState& s) const override {
         ScriptedPrompter quiet;
         CheckSequence checks(quiet);
         const std::optional<TwoFlights> t = readStair(s, checks);
         return t ? stairPicture(*t) : Drawing{};
     }
 
-    void report(const std::string& key, const FormState& s, ReportWriter& out) const override {
-        if (key != "Form42") return;
-        reportStairConcrete(out, s);
+    void reportData(const FormState& s, ReportWriter& out) const override {
         out.write("Geometria:");
         out.write("Projeção horizontal do lance inclinado a = ", s.text("Text4"), " m");
         out.write("Largura do lance inclinado L = ", s.text("Text5"), " m");
@@ -189,11 +153,6 @@ public:
         out.write("Acidental no patamar: q = ", s.text("Text14"), " kN/m2");
         out.write("Peso próprio das lajes: 25 kN/m3");
         out.blank();
-        reportStairResults(out, s, kTitles, kDeflection);
-        ScriptedPrompter quiet;
-        CheckSequence checks(quiet);
-        const std::optional<TwoFlights> t = readStair(s, checks);
-        if (t && !s.text(kDeflection).empty()) out.picture(stairPicture(*t), 20);
     }
 };
 
