@@ -84,7 +84,12 @@ void writeStairResults(FormState& s, const std::vector<SectionRow>& sections, co
     s.setText(deflectionBox, shown(deflectionM * 100));
 }
 
-void checkStairConcrete(CheckSequence& checks, const FormState& s) { checkSlabConcrete(checks, s); }
+void checkStairConcrete(CheckSequence& checks, const FormState& s) {
+    checkSlabConcrete(checks, s);
+    // A negative creep coefficient would shrink the long-term deflection below the
+    // elastic one, or turn it upward.
+    checks.warnIf(s.number("Text3") < 0, "O coeficiente de fluência não pode ser negativo.", "Text3");
+}
 
 double positiveBox(CheckSequence& checks, const FormState& s, const std::string& box, const std::string& what) {
     const double v = s.number(box);

@@ -33,6 +33,7 @@ TEST(Form41, ChecksInOrder) {
         {{{"Text1", "95"}}, {}, msg::kHighFck, "Form41.Text1"},
         {{{"Text2", "abc"}}, {}, msg::kPositiveEcs, "Form41.Text2"},
         {{{"Text2", "2000"}}, {"yes"}, "O módulo secante do concreto está fora dos limites razoáveis. VOCÊ QUER CORRIGIR O MÓDULO?", "Form41.Text2", MessageKind::YesNo},
+        {{{"Text3", "-1"}}, {}, "O coeficiente de fluência não pode ser negativo.", "Form41.Text3"},
         {{{"Text4", "0"}}, {}, "A abertura total 2a deve ser maior que 0 e no máximo igual a 360 graus.", "Form41.Text4"},
         {{{"Text4", "361"}}, {}, "A abertura total 2a deve ser maior que 0 e no máximo igual a 360 graus.", "Form41.Text4"},
         {{{"Text5", "-0"}}, {}, "Forneça um valor positivo para o raio médio R.", "Form41.Text5"},
