@@ -88,7 +88,7 @@ Drawing helixPicture(const Helix& h) {
 class Form41 : public StairModule {
 public:
     Form41()
-        : StairModule({"Form41", "Escada helicoidal", 10, "Text13",
+        : StairModule({"Form41", "Escada helicoidal", 10, "Text13", kSections,
                        {"Esforços na base:", "Esforços no topo:", "Esforços no centro:"}}) {}
 
 protected:
@@ -116,7 +116,7 @@ protected:
 
     Outcome calculate(FormState& s, Prompter& prompter) const override {
         CheckSequence checks(prompter);
-        clearStairResults(s, "Text13");
+        clearResults(s);
         const std::optional<Helix> h = readHelix(s, checks);
         if (!h) return checks.outcome();
         const HelixResults r = analyseHelix(*h);

@@ -18,8 +18,8 @@ namespace {
 const std::string kNarrowLanding =
     "O patamar deve ter pelo menos a largura dos dois lances juntos: b não pode ser menor que 2L.";
 const std::string kDeflection = "Text15";
-const std::vector<std::string> kSections = {"Base", "Topo", "L1, My máximo", "L2, My máximo", "L1 - patamar",
-                                            "L2 - patamar", "Centro do patamar"};
+const std::vector<std::string> kSections = {"Base", "Topo", "L1, My máx", "L2, My máx", "L1-patamar",
+                                            "L2-patamar", "Patamar"};
 const std::vector<std::string> kTitles = {"Esforços na base:",
                                           "Esforços no topo:",
                                           "Esforços no lance L1, onde My é máximo:",
@@ -76,7 +76,7 @@ Drawing stairPicture(const TwoFlights& t) {
 
 class Form42 : public StairModule {
 public:
-    Form42() : StairModule({"Form42", "Escada autoportante", 14, kDeflection, kTitles}) {}
+    Form42() : StairModule({"Form42", "Escada autoportante", 14, kDeflection, kSections, kTitles}) {}
 
 protected:
     ScreenDecl mainScreen() const override {
@@ -91,25 +91,24 @@ protected:
         stairOptionFrames(main, 1);
         main.frame("Frame5", "Espessuras (cm)", 2, 0)
             .box("Text9", "No patamar h = ", "", "cm")
-            .box("Text10", "No lance h = ", "", "cm");
+            .box("Text10", "No lance h = ", "", "cm")
+            .command("Command1", "&CALCULAR", "Calcular os esforços")
+            .command("Command2", "Ver desenho", "A escada em perspectiva, com a deformada")
+            .disabled();
         main.frame("Frame7", "Cargas (kN/m2 de projeção horizontal)", 2, 1)
             .box("Text11", "Permanente no lance: g = ")
             .box("Text12", "Permanente no patamar: g = ")
             .box("Text13", "Acidental no lance: q = ")
             .box("Text14", "Acidental no patamar: q = ")
             .label("Label5", "O peso próprio das lajes (25 kN/m3) é somado pelo programa");
-        main.frame("Frame8", "", 3, 0, 1, 2)
-            .command("Command1", "&CALCULAR", "Calcular os esforços")
-            .command("Command2", "Ver desenho", "A escada em perspectiva, com a deformada")
-            .disabled();
-        stairResultFrame(main, 4, kSections, kDeflection);
+        stairResultFrame(main, 3, kSections, kDeflection);
 
         return main.build();
     }
 
     Outcome calculate(FormState& s, Prompter& prompter) const override {
         CheckSequence checks(prompter);
-        clearStairResults(s, kDeflection);
+        clearResults(s);
         const std::optional<TwoFlights> t = readStair(s, checks);
         if (!t) return checks.outcome();
         const TwoFlightResults r = analyseTwoFlights(*t);

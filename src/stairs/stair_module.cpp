@@ -25,7 +25,14 @@ std::vector<ScreenDecl> StairModule::screens() const {
     return {mainScreen(), picture.build()};
 }
 
-void StairModule::load(FormState& state, const StartDefaults& defaults) const { loadSlabDefaults(state, defaults); }
+void StairModule::load(FormState& state, const StartDefaults& defaults) const {
+    loadSlabDefaults(state, defaults);
+    clearResults(state);
+}
+
+void StairModule::clearResults(FormState& state) const {
+    clearStairResults(state, layout_.sections, layout_.deflectionBox);
+}
 
 std::vector<std::string> StairModule::projectFields() const {
     std::vector<std::string> f;

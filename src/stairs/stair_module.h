@@ -15,6 +15,7 @@ struct StairLayout {
     std::string pictureTitle;      // the picture screen's heading
     int boxes = 0;                 // Text1 ... TextN are the inputs
     std::string deflectionBox;     // the box of "Flecha máxima"
+    std::vector<std::string> sections;      // the rows of Grade1
     std::vector<std::string> reportTitles;  // the report's heads of the rows of Grade1
 };
 
@@ -42,6 +43,8 @@ protected:
 
     // What a successful calculation enables.
     Outcome calculated() const;
+    // The result tables blank, before the checks of a calculation.
+    void clearResults(FormState& state) const;
 
 private:
     StairLayout layout_;

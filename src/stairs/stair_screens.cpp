@@ -52,25 +52,26 @@ void stairResultFrame(ScreenBuilder& s, int row, const std::vector<std::string>&
     s.frame("Frame6", "Resultados (cargas de serviço)", row, 0, 1, 2)
         .grid(kForces, resultGrid({"Seção", "N (kN)", "Vy (kN)", "Vz (kN)", "T (kNm)", "My (kNm)", "Mz (kNm)"},
                                   static_cast<int>(sections.size())))
-        .label("Label1", "Esforços nos eixos locais da seção: x ao longo do eixo, no sentido da subida; z normal à "
-                         "face da laje, para baixo; y ao longo da largura")
-        .label("Label2", "Esforços que a parte de cima exerce sobre a parte de baixo: N positivo de tração, My positivo "
-                         "traciona a face inferior")
+        .label("Label1", "Eixos locais: x ao longo da peça, no sentido da subida; z normal à laje, para baixo. "
+                         "N > 0: tração; My > 0: traciona a face inferior")
         .grid(kReactions, resultGrid({"Apoio", "Rx (kN)", "Ry (kN)", "Rz (kN)", "Mxe (kNm)", "Mye (kNm)", "Mze (kNm)"}, 2))
-        .label("Label3", "Reações que os apoios exercem sobre a escada, nos eixos globais X, Y, Z (Z para cima)")
+        .label("Label3", "Reações dos apoios sobre a escada, eixos globais (Z para cima)")
         .result(deflectionBox, "Flecha máxima = ", "cm");
 }
 
-void clearStairResults(FormState& s, const std::string& deflectionBox) {
+void clearStairResults(FormState& s, const std::vector<std::string>& sections, const std::string& deflectionBox) {
     s.grid(kForces).resize(1);
+    for (const std::string& name : sections) s.grid(kForces).push_back({name, "", "", "", "", "", ""});
     s.grid(kReactions).resize(1);
+    for (const char* name : {"Base", "Topo"}) s.grid(kReactions).push_back({name, "", "", "", "", "", ""});
     s.setText(deflectionBox, "");
 }
 
 void writeStairResults(FormState& s, const std::vector<SectionRow>& sections, const Vec3& baseForce,
                        const Vec3& baseMoment, const Vec3& topForce, const Vec3& topMoment, double deflectionM,
                        const std::string& deflectionBox) {
-    clearStairResults(s, deflectionBox);
+    s.grid(kForces).resize(1);
+    s.grid(kReactions).resize(1);
     for (const SectionRow& r : sections) {
         std::vector<std::string> row{r.name};
         for (double v : r.forces) row.push_back(shown(v));

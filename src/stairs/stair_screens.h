@@ -35,7 +35,8 @@ struct SectionRow {
 void writeStairResults(FormState& s, const std::vector<SectionRow>& sections, const Vec3& baseForce,
                        const Vec3& baseMoment, const Vec3& topForce, const Vec3& topMoment, double deflectionM,
                        const std::string& deflectionBox);
-void clearStairResults(FormState& s, const std::string& deflectionBox);
+// The tables keep their rows, named, with blank values: the screen keeps its size.
+void clearStairResults(FormState& s, const std::vector<std::string>& sections, const std::string& deflectionBox);
 
 // fck, Ecs and the creep coefficient, each with its question.
 void checkStairConcrete(CheckSequence& checks, const FormState& s);
