@@ -105,7 +105,7 @@ protected:
         main.frame("Frame5", "Cargas (kN/m2 de projeção horizontal)", 2, 0)
             .box("Text7", "Permanente: g = ")
             .box("Text8", "Acidental: q = ")
-            .label("Label5", "O peso próprio da laje (25 kN/m3) é somado pelo programa");
+            .label("Label5", "Peso próprio (25 kN/m3) somado pelo programa");
         main.frame("Frame7", "", 2, 1)
             .command("Command1", "&CALCULAR", "Calcular os esforços")
             .command("Command2", "Ver desenho", "A hélice em perspectiva, com a deformada")

@@ -100,7 +100,7 @@ protected:
             .box("Text12", "Permanente no patamar: g = ")
             .box("Text13", "Acidental no lance: q = ")
             .box("Text14", "Acidental no patamar: q = ")
-            .label("Label5", "O peso próprio das lajes (25 kN/m3) é somado pelo programa");
+            .label("Label5", "Peso próprio (25 kN/m3) somado pelo programa");
         stairResultFrame(main, 3, kSections, kDeflection);
 
         return main.build();

@@ -49,14 +49,15 @@ bool fixedEnds(const FormState& s) { return !s.option("Option4"); }
 
 void stairResultFrame(ScreenBuilder& s, int row, const std::vector<std::string>& sections,
                       const std::string& deflectionBox) {
+    // The long table comes last: nothing stands below it to be crowded when it
+    // grows to show all its rows.
     s.frame("Frame6", "Resultados (cargas de serviço)", row, 0, 1, 2)
-        .grid(kForces, resultGrid({"Seção", "N (kN)", "Vy (kN)", "Vz (kN)", "T (kNm)", "My (kNm)", "Mz (kNm)"},
-                                  static_cast<int>(sections.size())))
-        .label("Label1", "Eixos locais: x ao longo da peça, no sentido da subida; z normal à laje, para baixo. "
-                         "N > 0: tração; My > 0: traciona a face inferior")
+        .result(deflectionBox, "Flecha máxima = ", "cm")
+        .label("Label3", "Reações: eixos globais, Z para cima")
         .grid(kReactions, resultGrid({"Apoio", "Rx (kN)", "Ry (kN)", "Rz (kN)", "Mxe (kNm)", "Mye (kNm)", "Mze (kNm)"}, 2))
-        .label("Label3", "Reações dos apoios sobre a escada, eixos globais (Z para cima)")
-        .result(deflectionBox, "Flecha máxima = ", "cm");
+        .label("Label1", "Esforços: eixos locais; N > 0 tração")
+        .grid(kForces, resultGrid({"Seção", "N (kN)", "Vy (kN)", "Vz (kN)", "T (kNm)", "My (kNm)", "Mz (kNm)"},
+                                  static_cast<int>(sections.size())));
 }
 
 void clearStairResults(FormState& s, const std::vector<std::string>& sections, const std::string& deflectionBox) {
