@@ -40,8 +40,8 @@ const std::vector<CatalogueRow>& ModuleCatalogue::rows() {
     {{"pilar"}, "Esforços devidos ao vento", "Command34", "Form33", {"Form33"}, "Esforços em Pórticos Planos Devidos ao Vento", "Ajuda33"},
     {{"tirante"}, "Armaduras assimétricas", "Command50", "Form18", {"Form18"}, "Dimensionamento à Flexo-Tração com Armadura Assimétrica", "Ajuda18"},
     {{"tirante"}, "Armaduras simétricas", "Command51", "Form19", {"Form19"}, "Dimensionamento à Flexo-Tração com Armadura Simétrica", "Ajuda19"},
-    {{"Escadas"}, "Helicoidais", "Command52", "Form41", {"Form41"}, "Cálculo de esforços em vigas, rampas e escadas helicoidais", ""},
-    {{"Escadas"}, "Autoportantes", "Command53", "Form42", {"Form42"}, "Cálculo de esforços em escadas autoportantes de dois lances", ""},
+    {{"Escadas"}, "Helicoidais", "Command52", "Form41", {"Form41"}, "Cálculo de esforços em vigas, rampas e escadas helicoidais", "Ajuda41"},
+    {{"Escadas"}, "Autoportantes", "Command53", "Form42", {"Form42"}, "Cálculo de esforços em escadas autoportantes de dois lances", "Ajuda42"},
     };
     return table;
 }
@@ -123,6 +123,8 @@ const std::vector<HelpListRow>& ModuleCatalogue::helpList() {
     {"Pilares - Esforços devidos ao vento", "Ajuda33"},
     {"Tirantes - Armaduras assimétricas", "Ajuda18"},
     {"Tirantes - Armaduras simétricas", "Ajuda19"},
+    {"Escadas - Helicoidais", "Ajuda41"},
+    {"Escadas - Autoportantes", "Ajuda42"},
     };
     return list;
 }

@@ -352,6 +352,32 @@ void fillDataRows(ModuleHost& host, const std::string& grid, const std::vector<s
     fill(host, {});
 }
 
+// The two stairs, each calculated and drawn in perspective with its deformed shape.
+bool stairShots(MorveApp& app, const QString& folder) {
+    ScriptedPrompter answers;
+    setGuiPrompter(&answers);
+    bool ok = true;
+    if (ModuleHost* host = open(app, "Form41")) {
+        fill(*host, {{"Text1", "25"}, {"Text2", "28517"}, {"Text4", "180"}, {"Text5", "2"}, {"Text6", "3"},
+                     {"Text9", "15"}, {"Text10", "1.2"}, {"Text7", "1.5"}, {"Text8", "3"}});
+        press(*host, "Command1");
+        ok &= saveScreen(*host, "Form41", folder, "form41.png");
+        press(*host, "Command2");
+        ok &= saveScreen(*host, "Form41b", folder, "form41b.png");
+    }
+    if (ModuleHost* host = open(app, "Form42")) {
+        fill(*host, {{"Text1", "25"}, {"Text2", "28517"}, {"Text4", "2.7"}, {"Text5", "1.2"}, {"Text6", "1.3"},
+                     {"Text7", "2.6"}, {"Text8", "2.88"}, {"Text9", "15"}, {"Text10", "14"}, {"Text11", "2"},
+                     {"Text12", "1"}, {"Text13", "3"}, {"Text14", "3"}});
+        press(*host, "Command1");
+        ok &= saveScreen(*host, "Form42", folder, "form42.png");
+        press(*host, "Command2");
+        ok &= saveScreen(*host, "Form42b", folder, "form42b.png");
+    }
+    setGuiPrompter(nullptr);
+    return ok;
+}
+
 bool obliqueShots(MorveApp& app, const QString& folder) {
     ScriptedPrompter answers;
     setGuiPrompter(&answers);
@@ -483,6 +509,7 @@ int takeScreenshots(const QString& folder) {
     ok &= slabShots(app, folder);
     ok &= flatSlabShots(app, folder);
     ok &= obliqueShots(app, folder);
+    ok &= stairShots(app, folder);
     return ok ? 0 : 1;
 }
 

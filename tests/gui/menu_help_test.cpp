@@ -127,7 +127,7 @@ private slots:
         QVERIFY(list && list->isVisible());
         QVERIFY(!app.menu()->isEnabled());
         QCOMPARE(list->findChild<QLabel*>("Label1")->text(), QString("Selecione um módulo e clique em \"Exibir\""));
-        QCOMPARE(list->list()->count(), 36);
+        QCOMPARE(list->list()->count(), 38);
         QCOMPARE(list->list()->item(8)->text(), QString("Vigas - Flexão simples - Dimensionamento, seção retangular"));
 
         // Nothing selected: the help window opens empty.
