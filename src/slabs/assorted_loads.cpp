@@ -79,7 +79,7 @@ public:
 
     // The three frames of loads stay in view until an option is pressed, so that a
     // front end that only toggles the options still reaches every box.
-    void load(FormState& state, const StartDefaults& defaults) const override { loadSlabDefaults(state, defaults); }
+    void load(FormState& state, const StartDefaults& defaults) const override { loadConcreteDefaults(state, defaults); }
 
     Outcome press(const std::string& command, FormState& s, Prompter& prompter) const override {
         const std::string c = command.rfind("Form23.", 0) == 0 ? command.substr(7) : command;
@@ -139,7 +139,7 @@ public:
 private:
     static Outcome calculate(FormState& s, Prompter& prompter) {
         CheckSequence checks(prompter);
-        checkSlabConcrete(checks, s);
+        checkConcreteService(checks, s);
         const double lx = s.number("Text4"), ly = s.number("Text5"), h = s.number("Text6");
         checkPositive(checks, lx, "o vão lx", "Text4");
         checkPositive(checks, ly, "o vão ly", "Text5");

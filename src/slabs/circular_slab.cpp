@@ -39,7 +39,7 @@ public:
         return {s.build(), r.build()};
     }
 
-    void load(FormState& state, const StartDefaults& defaults) const override { loadSlabDefaults(state, defaults); }
+    void load(FormState& state, const StartDefaults& defaults) const override { loadConcreteDefaults(state, defaults); }
 
     Outcome press(const std::string& command, FormState& s, Prompter& prompter) const override {
         if (command == "Form24e.Command1")
@@ -49,7 +49,7 @@ public:
         if (command != "Command1" && command != "Form24d.Command1") return Outcome::stop();
 
         CheckSequence checks(prompter);
-        checkSlabConcrete(checks, s);
+        checkConcreteService(checks, s);
         checkSlabLoads(checks, s);
         const double radius = s.number("Text6"), h = s.number("Text8");
         checkPositive(checks, radius, "o raio", "Text6");

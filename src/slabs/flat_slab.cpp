@@ -112,7 +112,7 @@ Outcome columnsTyped(FormState& s, Prompter& prompter) {
 }
 
 std::optional<FlatSlab> readSlab(const FormState& s, CheckSequence& checks) {
-    checkSlabConcrete(checks, s);
+    checkConcreteService(checks, s);
     const double h = s.number("Text4");
     checkPositive(checks, h, "a espessura da laje", "Text4");
     checks.confirmIf(h < 16, kThinFlatSlab, "Text4");
@@ -312,7 +312,7 @@ std::vector<ScreenDecl> Form40::screens() const {
     return {main.build(), columns.build(), floor.build(), diagrams.build()};
 }
 
-void Form40::load(FormState& state, const StartDefaults& defaults) const { loadSlabDefaults(state, defaults); }
+void Form40::load(FormState& state, const StartDefaults& defaults) const { loadConcreteDefaults(state, defaults); }
 
 Outcome Form40::press(const std::string& command, FormState& s, Prompter& prompter) const {
     const std::string c = s.qualify(command);

@@ -172,7 +172,7 @@ const char* const kResultScreens[] = {"Form22b", "Form22c", "Form22d"};
 
 Outcome calculate(SlabMethod method, FormState& s, Prompter& prompter) {
     CheckSequence checks(prompter);
-    checkSlabConcrete(checks, s);
+    checkConcreteService(checks, s);
     checkSlabLoads(checks, s);
     const double lx = s.number("Text6"), ly = s.number("Text7"), h = s.number("Text8");
     checkPositive(checks, lx, "o vão lx", "Text6");
@@ -217,7 +217,7 @@ std::vector<ScreenDecl> Form22::screens() const {
 }
 
 void Form22::load(FormState& state, const StartDefaults& defaults) const {
-    loadSlabDefaults(state, defaults);
+    loadConcreteDefaults(state, defaults);
     hideCaseFrames(state, caseFrames());
 }
 

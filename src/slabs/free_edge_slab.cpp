@@ -97,7 +97,7 @@ public:
     }
 
     void load(FormState& state, const StartDefaults& defaults) const override {
-        loadSlabDefaults(state, defaults);
+        loadConcreteDefaults(state, defaults);
         hideCaseFrames(state, caseFrames());
     }
 
@@ -106,7 +106,7 @@ public:
         if (command != "Command1" && command != "Form24.Command1") return Outcome::stop();
 
         CheckSequence checks(prompter);
-        checkSlabConcrete(checks, s);
+        checkConcreteService(checks, s);
         checkSlabLoads(checks, s);
         const double lx = s.number("Text6"), ly = s.number("Text7"), h = s.number("Text8");
         checkPositive(checks, lx, "o vão lx", "Text6");

@@ -236,7 +236,7 @@ Outcome calculate(FormState& s, Prompter& prompter) {
     CheckSequence checks(prompter);
     checks.warnIf(static_cast<double>(s.grid(kVertices).size()) != vertexCount(s) + 1, kUpdateVertices);
     if (checks.stopped()) return checks.outcome();
-    checkSlabConcrete(checks, s);
+    checkConcreteService(checks, s);
     checkSlabLoads(checks, s);
     checkSlabThickness(checks, s.number("Text7"), "Text7");
     const double ratio = s.number("Text8");
@@ -345,7 +345,7 @@ public:
     }
 
     void load(FormState& state, const StartDefaults& defaults) const override {
-        loadSlabDefaults(state, defaults);
+        loadConcreteDefaults(state, defaults);
         state.setVisible("Form24f.Frame4", false);
         state.setVisible("Form24f.Frame5", false);
     }

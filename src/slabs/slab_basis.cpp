@@ -16,12 +16,6 @@ const std::string kThinSlab =
 
 }  // namespace
 
-void addConcreteFrame(ScreenBuilder& s, const std::string& frame, int row, int column) {
-    s.frame(frame, "Concreto", row, column)
-        .box("Text1", "fck(MPa)=", "20")
-        .box("Text2", "Ecs (MPa)=", "25757")
-        .box("Text3", "coeficiente de fluência: φ=", "2.5");
-}
 
 void addLoadFrame(ScreenBuilder& s, const std::string& frame, int row, int column) {
     s.frame(frame, "Cargas (kN/m2)", row, column)
@@ -49,21 +43,7 @@ ScreenBuilder& addBackAndPrint(ScreenBuilder& r) {
     return r.command("Command1", "&Voltar").command("Command7", "Im&primir", "Imprimir relatório");
 }
 
-void loadSlabDefaults(FormState& state, const StartDefaults& defaults) {
-    if (readNumber(defaults.list(1)) > 0) state.setText("Text1", defaults.list(1));
-    if (defaults.ecs > 0) state.setText("Text2", defaults.ecsText());
-}
 
-void checkSlabConcrete(CheckSequence& checks, const FormState& s) {
-    const double fck = s.number("Text1"), ecs = s.number("Text2") * 1000, creep = s.number("Text3");
-    checkConcreteRange(checks, fck, "Text1");
-    checks.warnIf(ecs <= 0, msg::kPositiveEcs, "Text2");
-    // The code's secant modulus of this concrete, in MPa; a typed value far from it
-    // is more likely a slip of units than a measured concrete.
-    const double eref = 18275 * std::cbrt((fck + 8) / 10);
-    checks.askIf(ecs < 700 * eref || ecs > 1300 * eref, msg::kEcsRange, "Text2")
-        .askIf(creep > 5, msg::kHighCreep, "Text3");
-}
 
 void checkPositive(CheckSequence& checks, double value, const std::string& what, const std::string& box) {
     checks.warnIf(!(value > 0), msg::positiveValue(what), box);
@@ -95,13 +75,6 @@ SlabLoading slabLoading(const FormState& s, double hCm) {
     return l;
 }
 
-void reportConcrete(ReportWriter& out, const FormState& s) {
-    out.write("Propriedades do concreto:");
-    out.write("Resistência característica fck= ", s.text("Text1"), " MPa");
-    out.write("Módulo secante Ecs= ", s.text("Text2"), " MPa");
-    out.write("Coeficiente de fluência = ", s.text("Text3"));
-    out.blank();
-}
 
 void reportLoads(ReportWriter& out, const FormState& s) {
     out.write("Cargas:");

@@ -13,6 +13,7 @@
 #include "app/screen.h"
 #include "app/start_defaults.h"
 #include "basis/checks.h"
+#include "basis/concrete_service.h"
 #include "draw/drawing.h"
 
 namespace morve {
@@ -22,8 +23,6 @@ class ReportWriter;
 // Poisson's ratio of the concrete in every plate formula of the program.
 inline constexpr double kSlabPoisson = 0.2;
 
-// The "Concreto" frame: fck Text1, Ecs Text2, creep coefficient Text3.
-void addConcreteFrame(ScreenBuilder& s, const std::string& frame, int row, int column);
 // The "Cargas (kN/m2)" frame: g Text4, q Text5.
 void addLoadFrame(ScreenBuilder& s, const std::string& frame, int row, int column);
 // The data of a rectangular slab: concrete, loads, spans lx (Text6) and ly (Text7)
@@ -34,11 +33,7 @@ void addRectangularSlabFrames(ScreenBuilder& s);
 ScreenBuilder& addCentreResultFrames(ScreenBuilder& r, const std::string& momentsCaption);
 // "&Voltar" (Command1) and "Im&primir" (Command7), the last buttons of a result screen.
 ScreenBuilder& addBackAndPrint(ScreenBuilder& r);
-// fck and Ecs of the start dialog into Text1 and Text2.
-void loadSlabDefaults(FormState& state, const StartDefaults& defaults);
 
-// fck range, Ecs positive and within 0.7 to 1.3 of the code's value, creep above 5.
-void checkSlabConcrete(CheckSequence& checks, const FormState& state);
 // g and q both positive (a zero variable load is refused).
 void checkSlabLoads(CheckSequence& checks, const FormState& state);
 // A positive box, with the words "Forneça um valor positivo para ..." and its focus.
@@ -63,8 +58,6 @@ inline double longTermMm(double w0, const SlabLoading& l) { return w0 * (1 + l.c
 // span / 250 in mm for the smaller span given.
 inline double admissibleMm(double span) { return span / 250 * 1000; }
 
-// The report's lines of the concrete, of the loads, of the spans and thickness.
-void reportConcrete(ReportWriter& out, const FormState& s);
 void reportLoads(ReportWriter& out, const FormState& s);
 void reportSpans(ReportWriter& out, const FormState& s, const std::string& lx, const std::string& ly);
 void reportThickness(ReportWriter& out, const FormState& s, const std::string& h);

@@ -1,7 +1,7 @@
 #include "stairs/stair_module.h"
 
 #include "reports/report_writer.h"
-#include "slabs/slab_basis.h"
+#include "basis/concrete_service.h"
 #include "stairs/stair_screens.h"
 
 namespace morve {
@@ -26,7 +26,7 @@ std::vector<ScreenDecl> StairModule::screens() const {
 }
 
 void StairModule::load(FormState& state, const StartDefaults& defaults) const {
-    loadSlabDefaults(state, defaults);
+    loadConcreteDefaults(state, defaults);
     clearResults(state);
 }
 

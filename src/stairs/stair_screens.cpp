@@ -6,7 +6,7 @@
 #include "app/numbers.h"
 #include "basis/messages.h"
 #include "reports/report_writer.h"
-#include "slabs/slab_basis.h"
+#include "basis/concrete_service.h"
 
 namespace morve {
 
@@ -87,7 +87,7 @@ void writeStairResults(FormState& s, const std::vector<SectionRow>& sections, co
 }
 
 void checkStairConcrete(CheckSequence& checks, const FormState& s) {
-    checkSlabConcrete(checks, s);
+    checkConcreteService(checks, s);
     // A negative creep coefficient would shrink the long-term deflection below the
     // elastic one, or turn it upward.
     checks.warnIf(s.number("Text3") < 0, "O coeficiente de fluência não pode ser negativo.", "Text3");

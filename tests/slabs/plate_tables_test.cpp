@@ -132,7 +132,9 @@ TEST(PlateTables, StripValuesAreTheOneWayStrips) {
         EXPECT_NEAR(row[main](0.3), v[1], 0.01) << signedCase;
         // The other way carries the strip moment times Poisson's ratio.
         EXPECT_NEAR(row[other](0.3), kNu * v[1], 0.01) << signedCase;
-        if (v[2] > 0) EXPECT_NEAR(row[support](0.3), v[2], 0.01) << signedCase;
+        if (v[2] > 0) {
+            EXPECT_NEAR(row[support](0.3), v[2], 0.01) << signedCase;
+        }
     }
 }
 

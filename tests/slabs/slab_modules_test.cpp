@@ -81,7 +81,9 @@ TEST(SlabGrillage, StripsDeflectAlikeAndCarryTheLoad) {
         const auto r = rectangularSlab(SlabMethod::RedistributedGrillage, c, lx, ly, kUnit).v;
         const double kxr = r[Cw] / 1000 * 384 / (kw3[c - 1] * std::pow(lx, 4));
         EXPECT_NEAR(r[Mx] - r[Mxe] * fixedEnds[c - 1] / 2, kxr * lx * lx / 8, 1e-9) << c;
-        if (fixedEnds[c - 1] > 0) EXPECT_NEAR(r[Mx], -r[Mxe], 1e-12) << c;
+        if (fixedEnds[c - 1] > 0) {
+            EXPECT_NEAR(r[Mx], -r[Mxe], 1e-12) << c;
+        }
     }
     EXPECT_EQ(rectangularSlab(SlabMethod::Grillage, 1, lx, ly, kUnit).v,
               rectangularSlab(SlabMethod::RedistributedGrillage, 1, lx, ly, kUnit).v);
