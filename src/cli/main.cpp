@@ -18,6 +18,7 @@ const char* kUsage =
     "uso: morve-calc CASO.json\n"
     "     morve-calc --report SAIDA.pdf|SAIDA.txt [--key CHAVE] [--title TITULO] CASO.json\n"
     "     morve-calc --save SAIDA.mor CASO.json\n"
+    "     morve-calc --picture Form40d.Picture1 SAIDA.gif|SAIDA.png|SAIDA.svg CASO.json\n"
     "     morve-calc --list\n";
 
 int listModules() {
@@ -35,7 +36,7 @@ int listModules() {
 }  // namespace
 
 int main(int argc, char** argv) {
-    std::string casePath, reportPath, savePath, key, title;
+    std::string casePath, reportPath, savePath, key, title, picture, picturePath;
     for (int i = 1; i < argc; ++i) {
         std::string a = argv[i];
         auto value = [&](const char* what) -> std::string {
@@ -53,6 +54,10 @@ int main(int argc, char** argv) {
         if (a == "--report") reportPath = value("--report");
         else if (a == "--save") savePath = value("--save");
         else if (a == "--key") key = value("--key");
+        else if (a == "--picture") {
+            picture = value("--picture");
+            picturePath = value("--picture");
+        }
         else if (a == "--title") title = value("--title");
         else if (!a.empty() && a[0] == '-') {
             std::cerr << "morve-calc: opção desconhecida: " << a << "\n" << kUsage;
@@ -75,7 +80,13 @@ int main(int argc, char** argv) {
         morve::resolveCaseProject(caseFile, casePath);
         morve::CaseRun run = morve::runCase(caseFile);
         if (!savePath.empty()) morve::saveCaseProject(*run.session, savePath);
-        if (!reportPath.empty()) {
+        if (!picture.empty()) {
+            std::string error = morve::writePictureFile(*run.session, picture, picturePath);
+            if (!error.empty()) {
+                std::cerr << "morve-calc: " << error << "\n";
+                return 2;
+            }
+        } else if (!reportPath.empty()) {
             std::string error = morve::writeReportFile(*run.session, reportPath, key, title);
             if (!error.empty()) {
                 std::cerr << "morve-calc: " << error << "\n";

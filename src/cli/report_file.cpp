@@ -9,6 +9,7 @@
 #ifdef MORVE_HAS_RENDER
 #include <QString>
 
+#include "render/drawing_export.h"
 #include "render/offscreen.h"
 #include "render/page_painter.h"
 #endif
@@ -49,6 +50,25 @@ std::string writeReportFile(const ModuleSession& session, const std::string& pat
 #endif
     }
     return "a extensão do relatório deve ser .txt ou .pdf: " + path;
+}
+
+std::string writePictureFile(const ModuleSession& session, const std::string& picture, const std::string& path) {
+    const FormState& state = session.state();
+    const std::string name = state.qualify(picture);
+    const ControlDecl* control = state.has(name) ? state.declaration(name) : nullptr;
+    if (!control || control->kind != ControlKind::Picture)
+        return "o módulo " + session.info().key + " não tem o desenho " + picture;
+    const Drawing drawing = session.module().drawing(name, state);
+    if (drawing.empty()) return "o desenho " + name + " está vazio: calcule antes de gravá-lo";
+#ifdef MORVE_HAS_RENDER
+    ensurePaintingApplication();
+    // The size the picture box is declared with, as the desktop first shows it.
+    const QSize size(control->width > 0 ? control->width : 640, control->height > 0 ? control->height : 480);
+    return exportDrawing(drawing, QString::fromStdString(path), size);
+#else
+    (void)path;
+    return "esta versão do morve-calc foi construída sem Qt e não grava desenhos";
+#endif
 }
 
 }  // namespace morve

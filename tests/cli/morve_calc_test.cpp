@@ -94,6 +94,20 @@ TEST(MorveCalc, WritesTheReportAsText) {
     EXPECT_NE(text.find("Armadura tracionada As= 5.13 cm2\n"), std::string::npos);
 }
 
+TEST(MorveCalc, WritesAPictureByItsExtensionAndRefusesWhatIsNoPicture) {
+    fs::path gif = fs::temp_directory_path() / "morve-calc-test-picture.gif";
+    fs::remove(gif);
+    Result r = runCalc("--picture Form40d.Picture1 " + gif.string() + " " + example("form40-quatro-pilares.json"));
+    ASSERT_EQ(r.status, 0) << r.out;
+    std::ifstream in(gif, std::ios::binary);
+    std::string head(6, '\0');
+    in.read(head.data(), 6);
+    EXPECT_EQ(head.substr(0, 4), "GIF8");
+    r = runCalc("--picture Form7.Text1 x.png " + example("form7-armadura-simples.json"));
+    EXPECT_EQ(r.status, 2);
+    EXPECT_NE(r.out.find("não tem o desenho"), std::string::npos) << r.out;
+}
+
 TEST(MorveCalc, ListsTheRegisteredModules) {
     Result r = runCalc("--list");
     ASSERT_EQ(r.status, 0);
