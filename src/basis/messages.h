@@ -5,6 +5,10 @@
 
 namespace morve::msg {
 
+// The note under the tables that the user types into, for one table and for several.
+inline const std::string kGridArrows = "Utilize as setas do teclado para se deslocar dentro da grade";
+inline const std::string kGridsArrows = "Utilize as setas do teclado para se deslocar dentro das grades";
+
 inline const std::string kLowFck =
     "A menor resistência admitida na NBR-6118 é igual a 20 MPa. Aumente o valor de fck.";
 inline const std::string kHighFck =

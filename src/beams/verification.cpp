@@ -92,7 +92,7 @@ std::vector<ScreenDecl> LayeredVerification::screens() const {
     grid.maxRows = kMaxLayers;
     ScreenBuilder g(setup_.companion, "Dados das camadas de armadura", false);
     g.frame("Frame1", "Dados das camadas de armadura", 0, 0)
-        .label("Label1", "Utilize as setas do teclado para se deslocar dentro da grade")
+        .label("Label1", msg::kGridArrows)
         .grid("Grade1", grid)
         .command("Command2", "&OK");
     return {s.build(), g.build()};

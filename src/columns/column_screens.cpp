@@ -1,5 +1,6 @@
 // The windows of the column modules, declared from their description.
 #include "columns/column_form.h"
+#include "basis/messages.h"
 
 namespace morve {
 
@@ -75,7 +76,7 @@ ScreenDecl mainScreen(const ColumnForm& f) {
 ScreenDecl layerScreen(const ColumnForm& f) {
     ScreenBuilder s(f.layerScreen, "Dados das camadas de armadura", false);
     s.frame("Frame1", "", 0, 0)
-        .label("Label1", "Utilize as setas do teclado para se deslocar dentro da grade")
+        .label("Label1", msg::kGridArrows)
         .grid("Grade1", GridDecl{{"Camada", "Número de barras"}, 0, 300, KeyFilter::Digit, true});
     if (!f.design) s.box("Text1", "Área total de aço na seção=", "", "cm2");
     s.command("Command2", "&OK", kOkTip);

@@ -9,6 +9,7 @@
 #include "basis/start_values.h"
 #include "columns/column_results.h"
 #include "reports/report_writer.h"
+#include "basis/messages.h"
 
 namespace morve {
 
@@ -57,7 +58,7 @@ ScreenDecl coordinateScreen(const CoordinateTables& t) {
     s.frame("Frame2", "Coordenadas das barras de aço", 0, 1)
         .grid("Grade2", GridDecl{header("Barra", t.barAreas), 0, limit, KeyFilter::SignedNumber, true});
     s.frame("Frame3", "", 1, 0, 1, 2)
-        .label("Label1", "Utilize as setas do teclado para se deslocar dentro das grades")
+        .label("Label1", msg::kGridsArrows)
         .command("Command2", "&OK", "Volta para o dimensionamento");
     return s.build();
 }

@@ -284,7 +284,7 @@ std::vector<ScreenDecl> Form34::screens() const {
         .label("Label3", "Ig = inércia equivalente dos pilares")
         .label("Label4", "Isup , Lsup = inércia e altura do pilar superior")
         .label("Label5", "Inf , Linf = inércia e altura do pilar inferior")
-        .label("Label6", "Utilize as setas do teclado para se deslocar dentro das grades")
+        .label("Label6", msg::kGridsArrows)
         .command("Command1", "Ver desenho")
         .command("Command2", "OK");
 
@@ -299,7 +299,7 @@ std::vector<ScreenDecl> Form34::screens() const {
         .label("Label1", "Forças positivas: dirigidas para baixo")
         .label("Label2", "Momentos positivos: sentido horário")
         .label("Label3", "Nó i  ———  Nó i+1")
-        .label("Label4", "Utilize as setas do teclado para se deslocar dentro das grades")
+        .label("Label4", msg::kGridsArrows)
         .command("Command1", "Ver carregamento")
         .command("Command2", "OK");
 

@@ -10,6 +10,7 @@
 #include "frames/wind_floor.h"
 #include "frames/wind_texts.h"
 #include "reports/report_writer.h"
+#include "basis/messages.h"
 
 namespace morve {
 
@@ -219,7 +220,7 @@ std::vector<ScreenDecl> Form32::screens() const {
         .label("Label3", "Altura de influência: L=(hs+hi)/2");
     panels.frame("Frame3", "", 1, 1)
         .label("Label1", "Inclinação: ângulo do plano do painel com o eixo x, entre 0 e 90 graus")
-        .label("Label2", "Utilize as setas do teclado para se deslocar dentro das grades")
+        .label("Label2", msg::kGridsArrows)
         .command("Command1", "OK");
 
     ScreenBuilder wind("Form32c", "Dados do vento", false);

@@ -97,7 +97,7 @@ ScreenDecl loadScreen() {
         .label("Label1", "Forças positivas: dirigidas para baixo")
         .label("Label2", "Momentos positivos: sentido horário");
     s.frame("Frame5", "", 2, 0, 1, 2)
-        .label("Label3", "Utilize as setas do teclado para se deslocar dentro das grades")
+        .label("Label3", msg::kGridsArrows)
         .command("Command1", "Ver carregamento")
         .command("Command2", "&OK");
     return s.build();

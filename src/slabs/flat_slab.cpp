@@ -283,7 +283,7 @@ std::vector<ScreenDecl> Form40::screens() const {
         .grid("Grade1", columnTable({"Pilar", "X", "Y"}, KeyFilter::PositiveNumber))
         .label("Label2", "Dimensões das seções dos pilares (cm)")
         .grid("Grade2", columnTable({"Pilar", "hx", "hy"}, KeyFilter::PositiveNumber))
-        .label("Label3", "Utilize as setas do teclado para se deslocar dentro das grades")
+        .label("Label3", msg::kGridsArrows)
         .command("Command1", "&OK");
 
     GridDecl loads;

@@ -326,7 +326,7 @@ public:
             .label("Label2", "1 = Engaste ")
             .label("Label3", "2 = Bordo livre");
         v.frame("Frame3", "", 1, 0, 1, 2)
-            .label("Label4", "Utilize as setas do teclado para se deslocar dentro das grades")
+            .label("Label4", msg::kGridsArrows)
             .command("Command2", "&OK", "Volta para o cálculo")
             .command("Command5", "Ver poligonal", "Ver o desenho da laje");
 

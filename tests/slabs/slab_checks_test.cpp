@@ -151,8 +151,10 @@ TEST(SlabReports, ShortReportsWholeAndResultsInTheOthers) {
         std::string all;
         for (const auto& l : run.report(key)) all += l + "\n";
         for (const auto& [name, text] : run.session.state().texts())
-            if (name.rfind(key + ".Text", 0) == 0 && !text.empty() && run.session.state().declaration(name)->kind == ControlKind::ResultBox)
+            if (name.rfind(key + ".Text", 0) == 0 && !text.empty() &&
+                run.session.state().declaration(name)->kind == ControlKind::ResultBox) {
                 EXPECT_NE(all.find("= " + text + " "), std::string::npos) << name << " " << text;
+            }
     }
 }
 
