@@ -123,10 +123,12 @@ struct Restraint {
 };
 
 // Factors the band in place into the upper triangular factor, row after row.
-// Returns false (singular) at the first pivot not greater than zero, leaving the
-// band half factored; no tolerance is used. With one equation the diagonal ends as
-// the fourth root of the term, as the program has always done.
-bool BandCholesky(BandMatrix& band);
+// Returns false (singular), leaving the band half factored, at the first row whose
+// pivot term, all products of the rows above taken off, is not above `tolerance`
+// times the term the row's diagonal started from; a tolerance of zero refuses only
+// pivots not greater than zero. With one equation the diagonal ends as the fourth
+// root of the term, as the program has always done.
+bool BandCholesky(BandMatrix& band, double tolerance = 0);
 // Overwrites the load vector with the solution, from a factored band.
 void BandSolve(const BandMatrix& band, LoadVector& load);
 // The semi-bandwidth from the incidences: (largest node difference in an element
