@@ -32,7 +32,7 @@ inline std::unique_ptr<morve::ModuleSession> preparedCase(const nlohmann::json& 
     return std::move(run.session);
 }
 
-// Times one press of an prepared case; a case that does not complete is an error.
+// Times one press of a prepared case; a case that does not complete is an error.
 inline void timePress(benchmark::State& state, const nlohmann::json& caseFile, const std::string& command) {
     std::string fault;
     std::unique_ptr<morve::ModuleSession> session = preparedCase(caseFile, fault);
@@ -40,9 +40,14 @@ inline void timePress(benchmark::State& state, const nlohmann::json& caseFile, c
         state.SkipWithError(fault.c_str());
         return;
     }
+    // Each press starts from the prepared case, as a user's first press does: a
+    // second press on the results may be refused or stop.
     for (auto _ : state) {
+        state.PauseTiming();
+        morve::ModuleSession fresh = *session;
         morve::ScriptedPrompter prompter;
-        const morve::Outcome o = session->press(command, prompter);
+        state.ResumeTiming();
+        const morve::Outcome o = fresh.press(command, prompter);
         if (!o.completed) {
             state.SkipWithError((command + " stopped").c_str());
             break;
