@@ -17,7 +17,9 @@ namespace {
 // the SSE2 that every x86-64 has. The vectors never cross a call (every helper is
 // inlined), so the warning that such values change the calling convention between
 // builds with and without AVX does not concern them.
+#if defined(__GNUC__) && !defined(__clang__)
 #pragma GCC diagnostic ignored "-Wpsabi"
+#endif
 template <int W>
 struct Lanes {
     typedef double Terms __attribute__((vector_size(8 * W)));
