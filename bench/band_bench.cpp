@@ -68,10 +68,14 @@ void timeLapack(benchmark::State& state, const bench::BandLapack& lib) {
     }
 }
 
+#ifdef MORVE_REFERENCE_LAPACK
 void ReferenceLapackDpbtrfDpbtrs(benchmark::State& state) { timeLapack(state, bench::referenceLapack()); }
 BENCHMARK(ReferenceLapackDpbtrfDpbtrs)->Unit(benchmark::kMillisecond);
+#endif
 
+#ifdef MORVE_OPENBLAS
 void OpenblasDpbtrfDpbtrs(benchmark::State& state) { timeLapack(state, bench::openBlas()); }
 BENCHMARK(OpenblasDpbtrfDpbtrs)->Unit(benchmark::kMillisecond);
+#endif
 
 }  // namespace

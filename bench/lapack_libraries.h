@@ -17,6 +17,7 @@ struct BandLapack {
                            const int*, int*);
     Factor dpbtrf = nullptr;
     Solve dpbtrs = nullptr;
+    void* handle = nullptr;
     std::string fault;  // why the library could not be used, "" when it can
 };
 
@@ -26,35 +27,38 @@ inline BandLapack openBandLapack(const char* path, const char* blasFirst = nullp
         lib.fault = dlerror();
         return lib;
     }
-    void* handle = dlopen(path, RTLD_NOW | RTLD_LOCAL);
-    if (!handle) {
+    lib.handle = dlopen(path, RTLD_NOW | RTLD_LOCAL);
+    if (!lib.handle) {
         lib.fault = dlerror();
         return lib;
     }
-    lib.dpbtrf = reinterpret_cast<BandLapack::Factor>(dlsym(handle, "dpbtrf_"));
-    lib.dpbtrs = reinterpret_cast<BandLapack::Solve>(dlsym(handle, "dpbtrs_"));
+    lib.dpbtrf = reinterpret_cast<BandLapack::Factor>(dlsym(lib.handle, "dpbtrf_"));
+    lib.dpbtrs = reinterpret_cast<BandLapack::Solve>(dlsym(lib.handle, "dpbtrs_"));
     if (!lib.dpbtrf || !lib.dpbtrs) lib.fault = std::string(path) + " has no dpbtrf_/dpbtrs_";
     return lib;
 }
 
+#ifdef MORVE_REFERENCE_LAPACK
 inline const BandLapack& referenceLapack() {
     static const BandLapack lib = openBandLapack(MORVE_REFERENCE_LAPACK, MORVE_REFERENCE_BLAS);
     return lib;
 }
+#endif
 
-// OpenBLAS on one thread, as the program's solver runs.
+#ifdef MORVE_OPENBLAS
+// OpenBLAS on one thread, as the program's solver runs: the count is read from the
+// environment when the library is opened, and set again through its own call.
 inline const BandLapack& openBlas() {
     static const BandLapack lib = [] {
         setenv("OPENBLAS_NUM_THREADS", "1", 1);
         BandLapack l = openBandLapack(MORVE_OPENBLAS);
-        if (l.fault.empty()) {
-            void* handle = dlopen(MORVE_OPENBLAS, RTLD_NOW | RTLD_LOCAL);
-            if (auto threads = reinterpret_cast<void (*)(int)>(dlsym(handle, "openblas_set_num_threads")))
+        if (l.fault.empty())
+            if (auto threads = reinterpret_cast<void (*)(int)>(dlsym(l.handle, "openblas_set_num_threads")))
                 threads(1);
-        }
         return l;
     }();
     return lib;
 }
+#endif
 
 }  // namespace bench
