@@ -6,6 +6,7 @@
 #include <sstream>
 #include <string>
 
+#include "app/about.h"
 #include "app/catalogue.h"
 #include "app/texts.h"
 #include "cli/case_runner.h"
@@ -19,7 +20,8 @@ const char* kUsage =
     "     morve-calc --report SAIDA.pdf|SAIDA.txt [--key CHAVE] [--title TITULO] CASO.json\n"
     "     morve-calc --save SAIDA.mor CASO.json\n"
     "     morve-calc --picture Form40d.Picture1 SAIDA.gif|SAIDA.png|SAIDA.svg CASO.json\n"
-    "     morve-calc --list\n";
+    "     morve-calc --list\n"
+    "     morve-calc --version\n";
 
 int listModules() {
     for (const auto& key : morve::ModuleRegistry::keys()) {
@@ -49,6 +51,10 @@ int main(int argc, char** argv) {
         if (a == "--list") return listModules();
         if (a == "--help" || a == "-h") {
             std::cout << kUsage;
+            return 0;
+        }
+        if (a == "--version") {
+            std::cout << morve::versionText("morve-calc");
             return 0;
         }
         if (a == "--report") reportPath = value("--report");
