@@ -94,6 +94,13 @@ calc=$work/root/usr/bin/morve-calc
 objdump -p "$calc" | grep -q 'NEEDED.*libQt' && fail "morve-calc carrega Qt em todo caso: $(objdump -p "$calc" | grep NEEDED)"
 "$calc" --report "$work/run.pdf" "$root/doc/morve/examples/form7-armadura-simples.json" \
     && file -b "$work/run.pdf" | grep -q '^PDF document' || fail "morve-calc do pacote não grava PDF"
+# Copied away from its renderer, it still calculates, and says why it writes no PDF.
+mkdir -p "$work/alone" && cp "$calc" "$work/alone/"
+"$work/alone/morve-calc" "$root/doc/morve/examples/form7-armadura-simples.json" >/dev/null \
+    || fail "morve-calc sem o morve-render.so não calcula"
+"$work/alone/morve-calc" --report "$work/alone.pdf" "$root/doc/morve/examples/form7-armadura-simples.json" \
+    2>"$work/alone.log"
+[ $? -eq 2 ] && grep -q 'morve-render.so' "$work/alone.log" || fail "morve-calc sem o morve-render.so: $(cat "$work/alone.log")"
 
 # Name, version and terms, the same in both programs and in the desktop's files.
 for program in morve morve-calc; do
