@@ -221,6 +221,7 @@ double largestExtent(const std::vector<Point>& outline) {
 // r; the gap is r less the distance of the point, positive inside.
 double surfaceGap(const ObliqueModel& model, double as, double n, double mx, double my, const SearchLimits& limits,
                   NeutralAxisSolution& axis, bool& converged) {
+    converged = true;
     Point centre{0, 0};
     for (int k = 0; k < 4; ++k) {
         const NeutralAxisSolution edge = balanceDepth(model, model.turn(k * kPi / 2), as, n, limits.depthRounds);
@@ -266,7 +267,7 @@ SteelDesign designSteel(const ObliqueModel& model, double nd, double mxd, double
         out.as = as;
         if (!symmetric) return last = surfaceGap(model, as, nd, mxd, myd, limits, out.axis, out.converged);
         out.axis = alignMoment(model, as, nd, mxd, myd, limits);
-        out.converged = out.converged && out.axis.converged;
+        out.converged = out.axis.converged;
         return last = (std::hypot(out.axis.r.mx, out.axis.r.my) - md) / md;
     };
     const double tolerance = symmetric ? kSteelTolerance : gapTolerance(model, nd, md);

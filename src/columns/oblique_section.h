@@ -113,6 +113,9 @@ NeutralAxisSolution alignMoment(const ObliqueModel& model, double as, double nd,
 // (without two axes of symmetry: that puts the forces on the failure surface):
 // the uniform-compression steel first, then doubling until the moment is reached,
 // then false position.
+// `converged` tells of the search and of the last evaluation, whose neutral axis
+// is kept; the trials on the way may fail to converge (the uniform-compression
+// steel squashes the section, where no angle can be sought) without harm.
 struct SteelDesign {
     double as = 0;
     NeutralAxisSolution axis;
