@@ -230,10 +230,18 @@ bool ScreenWindow::addControl(QGridLayout* grid, const ControlDecl& c, const std
     const ControlParts parts = makeControl(c, frameCaption);
     const int row = grid->rowCount();
     if (parts.caption) grid->addWidget(parts.caption, row, 0);
-    if (parts.unit) grid->addWidget(parts.unit, row, 2);
     switch (c.kind) {
         case ControlKind::TextBox:
-        case ControlKind::ResultBox: grid->addWidget(parts.widget, row, 1, Qt::AlignLeft); return false;
+        case ControlKind::ResultBox: {
+            // The unit follows its own box, however wide a box on another row is.
+            auto* pair = new QHBoxLayout();
+            pair->setContentsMargins(0, 0, 0, 0);
+            pair->addWidget(parts.widget);
+            if (parts.unit) pair->addWidget(parts.unit);
+            pair->addStretch(1);
+            grid->addLayout(pair, row, 1, 1, 2);
+            return false;
+        }
         case ControlKind::Label:
             // A wrapped label keeps out of the spare column: a span that takes it in
             // gets the height of one line while the text wraps to two.
