@@ -119,6 +119,20 @@ private slots:
         // Nothing but margins below the last frame.
         QWidget* answer = form7->control("Frame8");
         QVERIFY(form7->height() - (answer->mapTo(form7, QPoint(0, 0)).y() + answer->height()) < 40);
+        // A result screen whose page scrolls on a small screen: maximised, its
+        // diagrams take the room.
+        for (const ScreenDecl& screen : ModuleRegistry::find("Form34")->screens()) {
+            if (screen.name != "Form34e") continue;
+            ScreenWindow diagrams(screen);
+            diagrams.fitToScreen();
+            diagrams.show();
+            settle();
+            const int small = diagrams.control("Picture1")->width();
+            diagrams.resize(1900, 1400);
+            settle();
+            QVERIFY(diagrams.control("Picture1")->width() > small + 500);
+            QVERIFY(diagrams.control("Picture2")->height() > 230);
+        }
     }
 
     // A long calculation shows its status button while it runs and hides it after.
