@@ -57,7 +57,9 @@ bench: configure
 
 screenshots: build
 	@mkdir -p $(BUILD)/screenshots
-	@QT_QPA_PLATFORM=offscreen MORVE_DATA_DIR=$(CURDIR)/data $(BUILD)/morve --screenshots $(BUILD)/screenshots
+	@# On the screen of a student's laptop, 1366x768.
+	@QT_QPA_PLATFORM=offscreen:configfile=$(CURDIR)/tests/gui/screens/1366x768.json MORVE_DATA_DIR=$(CURDIR)/data \
+	  $(BUILD)/morve --screenshots $(BUILD)/screenshots
 
 install: build
 	@cmake --install $(BUILD)

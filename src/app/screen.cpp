@@ -8,6 +8,12 @@ const ControlDecl* ScreenDecl::find(const std::string& control) const {
     return nullptr;
 }
 
+KeyFilter GridDecl::filterOf(int column) const {
+    if (column >= 0 && static_cast<std::size_t>(column) < columnFilters.size())
+        return columnFilters[static_cast<std::size_t>(column)];
+    return filter;
+}
+
 ScreenBuilder::ScreenBuilder(std::string name, std::string heading, bool toolbar) {
     screen_.name = std::move(name);
     screen_.heading = std::move(heading);
@@ -150,6 +156,11 @@ ScreenBuilder& ScreenBuilder::rows(int n) {
 
 ScreenBuilder& ScreenBuilder::width(int w) {
     screen_.controls.back().width = w;
+    return *this;
+}
+
+ScreenBuilder& ScreenBuilder::escape() {
+    if (!screen_.controls.empty()) screen_.escape = screen_.controls.back().name;
     return *this;
 }
 

@@ -29,6 +29,11 @@ struct GridDecl {
     int maxRows = 0;                  // the module's own limit, 0 for none
     KeyFilter filter = KeyFilter::PositiveNumber;
     bool firstColumnLocked = true;    // column 0 numbers the rows
+    // Where columns differ (a node number beside a stiffness), each column's own
+    // filter in order; columns past the list take `filter`.
+    std::vector<KeyFilter> columnFilters;
+
+    KeyFilter filterOf(int column) const;
 };
 
 struct ControlDecl {
@@ -64,6 +69,7 @@ struct ScreenDecl {
     bool toolbar = false;         // the seven-button toolbar of module windows
     std::vector<FrameDecl> frames;
     std::vector<ControlDecl> controls;
+    std::string escape;  // the command Esc presses, when it is not the screen's "&Voltar"
 
     const ControlDecl* find(const std::string& control) const;
 };
@@ -98,6 +104,8 @@ public:
     // The control declared last stands on the row of the one before it, so that a
     // phrase made of several boxes ("SOLUÇÃO: n barras de φ mm") reads as one line.
     ScreenBuilder& sameRow();
+    // Esc presses the command declared last: the way back of a screen that calls it "OK".
+    ScreenBuilder& escape();
 
     ScreenDecl build() const { return screen_; }
 

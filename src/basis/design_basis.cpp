@@ -17,10 +17,10 @@ void addMaterialFrames(ScreenBuilder& s, const std::string& esBox, const std::st
         .box("Text15", "Gamaf=", "1.4");
 }
 
-void addCriterionFrames(ScreenBuilder& s) {
+void addCriterionFrames(ScreenBuilder& s, const std::string& ductilityCaption) {
     s.frame("Frame5", "Classe de agressividade ambiental", 2, 0)
         .list("List6", "Classe de agressividade ambiental", aggressivenessItems());
-    s.frame("Frame6", "Ductilidade", 2, 1)
+    s.frame("Frame6", ductilityCaption, 2, 1)
         .list("List2", "xlim/d = ", ductilityItems(), ductilityItems().front())
         .tip("Critério de ductilidade. Consulte a Ajuda.");
     s.frame("Frame7", "Coeficiente de redistribuição", 2, 2)

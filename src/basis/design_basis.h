@@ -18,7 +18,7 @@ double rectangularLimitMoment(double xlim, const StressBlockValues& block);
 // Text2, Es in esBox) and coefficients (Text13 to Text15) on the left, the class,
 // the ductility criterion and Beta in the row under them.
 void addMaterialFrames(ScreenBuilder& s, const std::string& esBox, const std::string& fyk = "500");
-void addCriterionFrames(ScreenBuilder& s);
+void addCriterionFrames(ScreenBuilder& s, const std::string& ductilityCaption = "Ductilidade");
 
 // What a bending design works from once its boxes have passed their checks.
 struct DesignBasis {

@@ -190,12 +190,18 @@ Drawing polygonSectionDrawing(const TypedSection& typed, const FormState& s) {
     }
     g.polyline(outline, true, colours::black, 2);
 
-    // The centroidal axes.
-    const double arm = 0.6 * size;
-    g.line(screen({centroid.x - arm, centroid.y}), screen({centroid.x + arm, centroid.y}), colours::green);
-    g.line(screen({centroid.x, centroid.y - arm}), screen({centroid.x, centroid.y + arm}), colours::green);
-    g.text(screen({centroid.x + arm, centroid.y - 0.04 * size}), "x", 9, TextAlign::Left, colours::green);
-    g.text(screen({centroid.x + 0.03 * size, centroid.y + arm}), "y", 9, TextAlign::Left, colours::green);
+    // The centroidal axes run past the section on both sides, so their names
+    // stand on the white beyond it and not on the concrete.
+    double armX = 0, armY = 0;
+    for (const Point& p : typed.outline) {
+        armX = std::max(armX, std::abs(p.x - centroid.x));
+        armY = std::max(armY, std::abs(p.y - centroid.y));
+    }
+    armX += 0.08 * size, armY += 0.08 * size;
+    g.line(screen({centroid.x - armX, centroid.y}), screen({centroid.x + armX, centroid.y}), colours::green);
+    g.line(screen({centroid.x, centroid.y - armY}), screen({centroid.x, centroid.y + armY}), colours::green);
+    g.text(screen({centroid.x + armX + 0.02 * size, centroid.y}), "x", 9, TextAlign::Left, colours::green);
+    g.text(screen({centroid.x + 0.03 * size, centroid.y + armY}), "y", 9, TextAlign::Left, colours::green);
 
     for (std::size_t i = 0; i < typed.bars.size(); ++i) {
         const double area = i < typed.areas.size() ? typed.areas[i] : 0;

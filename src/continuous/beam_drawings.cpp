@@ -101,13 +101,15 @@ Drawing beamPicture(const BeamModel& m, bool loads) {
         const double a = scaleX(total, x0), b = scaleX(total, x1);
         g.rectangle({a, top}, {b, top + 90}, colours::lightGrey, 1, true);
         g.rectangle({a, top}, {b, top + 90}, colours::blue, 1);
-        g.text({(a + b) / 2, top - 40}, formatResult(s.q, 2), 8, TextAlign::Centre, colours::blue);
+        // Labels keep their size in pixels while the beam is scaled to the box: a
+        // clearance of about a text's height keeps the value off the band's edge.
+        g.text({(a + b) / 2, top - 100}, formatResult(s.q, 2), 8, TextAlign::Centre, colours::blue);
     }
     auto force = [&](double x, double p, double mo) {
         const double sx = scaleX(total, x);
         if (p != 0) {
             arrowDown(g, sx, y - 300, y - 20);
-            g.text({sx + 30, y - 200}, formatResult(p, 2), 8, TextAlign::Left, colours::blue);
+            g.text({sx + 70, y - 200}, formatResult(p, 2), 8, TextAlign::Left, colours::blue);
         }
         if (mo != 0) couple(g, sx, y, mo);
     };
@@ -203,7 +205,7 @@ Drawing deformedShape(const AnalysedBeam& beam) {
     g.circle({sx(x0), axis}, 12, colours::black, true);
     g.polyline(curve, false, kCurve, 2);
     if (std::abs(extreme) > 0)
-        g.text({extremeAt.x, extremeAt.y + (extreme > 0 ? 50 : -50)}, formatResult(extreme, 1), 8,
+        g.text({extremeAt.x, extremeAt.y + (extreme > 0 ? 120 : -120)}, formatResult(extreme, 1), 8,
                TextAlign::Centre, colours::blue);
     return g;
 }

@@ -28,6 +28,12 @@ GridDecl table(std::vector<std::string> header, int maxRows, KeyFilter filter, b
     return g;
 }
 
+// The first columns number things (a node, a support type) and take digits only.
+GridDecl countColumns(GridDecl g, std::size_t columns) {
+    g.columnFilters.assign(columns, KeyFilter::Digit);
+    return g;
+}
+
 GridDecl results(std::vector<std::string> header) { return table(std::move(header), 0, KeyFilter::None, true); }
 
 // On leaving a table each cell is cut to its field: two characters for a node,
@@ -253,7 +259,7 @@ std::vector<ScreenDecl> Form34::screens() const {
     main.frame("Frame1", "Concreto", 0, 0)
         .box("Text1", "fck(MPa)=", "20")
         .box("Text2", "Ecs(MPa)=", "25757")
-        .box("Text8", "j =", "2.5")
+        .box("Text8", "φ=", "2.5")
         .tip("Coeficiente de fluência");
     main.frame("Frame2", "Viga", 0, 1)
         .box("Text3", "Número de vãos =", "", "", KeyFilter::Digit)
@@ -273,11 +279,12 @@ std::vector<ScreenDecl> Form34::screens() const {
 
     ScreenBuilder bars("Form34b", "Dados da viga", false);
     bars.frame("Frame1", "Dados das barras", 0, 0)
-        .grid("Grade1", table({"Vão", "L (m)", "I (cm4)"}, kBeamMaxSpans, KeyFilter::Digit, true))
+        // Lengths and inertias are quantities: "4.5" stays 4.5.
+        .grid("Grade1", table({"Vão", "L (m)", "I (cm4)"}, kBeamMaxSpans, KeyFilter::PositiveNumber, true))
         .command("Command4", "Limpar a última linha")
         .command("Command5", "Repetir a última linha");
     bars.frame("Frame2", "Apoios", 0, 1)
-        .grid("Grade2", table({"Nó", "Tipo", "Ig (cm3)"}, kBeamMaxSupports, KeyFilter::Digit, false))
+        .grid("Grade2", countColumns(table({"Nó", "Tipo", "Ig (cm3)"}, kBeamMaxSupports, KeyFilter::PositiveNumber, false), 2))
         .label("Label1", "Tipo 1: Apoio simples;  Tipo 2: Engaste");
     bars.frame("Frame3", "", 1, 0, 1, 2)
         .label("Label2", "Ig = 6(Isup/Lsup+Iinf/Linf)")

@@ -275,7 +275,7 @@ std::vector<ScreenDecl> Form33::screens() const {
         .result("Text1", "Deslocamento médio (cm)=")
         .result("Text2", "Coeficiente Gamaz=")
         .result("Text3", "Índice de estabilidade do ACI: Q,max=");
-    tables.frame("Frame4", "", 1, 1).command("Command2", "Ver pórtico").command("Command4", "OK");
+    tables.frame("Frame4", "", 1, 1).command("Command2", "Ver pórtico").command("Command4", "OK").escape();
 
     ScreenBuilder picture("Form33f", "Pórtico", false);
     picture.frame("Frame1", "", 0, 0).picture("Picture1", 700, 500).command("Command1", "&Voltar");

@@ -28,7 +28,7 @@ bool isBlockText(const QString& text) { return text.contains(QLatin1Char('\t')) 
 class Spreadsheet : public QObject {
 public:
     Spreadsheet(QTableWidget* table, const ControlDecl& decl)
-        : QObject(table), table_(table), grid_(decl.grid), filter_(decl.filter) {
+        : QObject(table), table_(table), grid_(decl.grid) {
         // A move the user makes by other means ends a run of Tabs.
         connect(table, &QTableWidget::currentCellChanged, this, [this] {
             if (!moving_) tabStart_ = -1;
@@ -85,7 +85,6 @@ private:
 
     QTableWidget* table_;
     GridDecl grid_;
-    KeyFilter filter_;
     int tabStart_ = -1;  // the column where the current run of Tabs began
     bool moving_ = false;
 };
@@ -160,7 +159,7 @@ void Spreadsheet::paste(const QString& clipboard) {
         for (int j = 0; j < static_cast<int>(cells.size()) && column + j < table_->columnCount(); ++j) {
             if (!editable(row + i, column + j)) continue;
             bool dropped = false;
-            const QString text = filteredText(cells[j].trimmed(), filter_, &dropped);
+            const QString text = filteredText(cells[j].trimmed(), grid_.filterOf(column + j), &dropped);
             refused = refused || dropped;
             if (QTableWidgetItem* item = table_->item(row + i, column + j))
                 item->setText(text);
@@ -199,13 +198,13 @@ void Spreadsheet::clear() {
 // cell are the spreadsheet's: the delegate sees them before anything else does.
 class CellDelegate : public QStyledItemDelegate {
 public:
-    CellDelegate(KeyFilter filter, Spreadsheet* sheet, QObject* parent)
-        : QStyledItemDelegate(parent), filter_(filter), sheet_(sheet) {}
+    CellDelegate(const GridDecl& grid, Spreadsheet* sheet, QTableWidget* table)
+        : QStyledItemDelegate(table), grid_(grid), sheet_(sheet), table_(table) {}
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override {
         QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
-        if (editor) KeyFilterGuard::install(editor, filter_);
+        if (editor) KeyFilterGuard::install(editor, grid_.filterOf(index.column()));
         return editor;
     }
 
@@ -218,7 +217,7 @@ protected:
             const QString clipboard = QApplication::clipboard()->text();
             if (auto* line = qobject_cast<QLineEdit*>(editor); line && !isBlockText(clipboard)) {
                 bool dropped = false;
-                line->insert(filteredText(clipboard.trimmed(), filter_, &dropped));
+                line->insert(filteredText(clipboard.trimmed(), grid_.filterOf(table_->currentColumn()), &dropped));
                 if (dropped) beep();
                 return true;
             }
@@ -241,8 +240,9 @@ private:
         emit closeEditor(editor, QAbstractItemDelegate::NoHint);
     }
 
-    KeyFilter filter_;
+    GridDecl grid_;
     Spreadsheet* sheet_;
+    QTableWidget* table_;
 };
 
 }  // namespace
@@ -262,9 +262,10 @@ QString filteredText(const QString& text, KeyFilter filter, bool* refused) {
 
 void makeSpreadsheet(QTableWidget* table, const ControlDecl& grid) {
     auto* sheet = new Spreadsheet(table, grid);
-    table->setItemDelegate(new CellDelegate(grid.filter, sheet, table));
+    table->setItemDelegate(new CellDelegate(grid.grid, sheet, table));
     table->setTabKeyNavigation(true);
-    KeyFilterGuard::install(table, grid.filter);
+    // The first key of a cell opens its editor, and passes the filter of its column.
+    KeyFilterGuard::install(table, [table, decl = grid.grid] { return decl.filterOf(table->currentColumn()); });
     // Installed after the key filter, so it sees Enter and Ctrl+V before the filter
     // refuses them as control characters.
     table->installEventFilter(sheet);

@@ -7,11 +7,16 @@
 
 namespace morve {
 
-KeyFilterGuard::KeyFilterGuard(KeyFilter filter, QObject* parent) : QObject(parent), filter_(filter) {}
+KeyFilterGuard::KeyFilterGuard(std::function<KeyFilter()> filter, QObject* parent)
+    : QObject(parent), filter_(std::move(filter)) {}
 
 void KeyFilterGuard::install(QObject* target, KeyFilter filter) {
     if (filter == KeyFilter::None) return;
-    target->installEventFilter(new KeyFilterGuard(filter, target));
+    install(target, [filter] { return filter; });
+}
+
+void KeyFilterGuard::install(QObject* target, std::function<KeyFilter()> filter) {
+    target->installEventFilter(new KeyFilterGuard(std::move(filter), target));
 }
 
 int characterCode(const QKeyEvent& event) {
@@ -44,7 +49,7 @@ bool KeyFilterGuard::eventFilter(QObject* watched, QEvent* event) {
     auto* key = static_cast<QKeyEvent*>(event);
     const int code = characterCode(*key);
     if (code == 0) return false;
-    const FilteredKey out = applyKeyFilter(filter_, code);
+    const FilteredKey out = applyKeyFilter(filter_(), code);
     if (out.code == 0) {
         if (out.beep) beep();
         return true;

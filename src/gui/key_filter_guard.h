@@ -6,6 +6,8 @@
 // that move the cursor carry none and are left alone.
 #include <QObject>
 
+#include <functional>
+
 #include "app/key_filters.h"
 
 class QKeyEvent;
@@ -14,15 +16,18 @@ namespace morve {
 
 class KeyFilterGuard : public QObject {
 public:
-    KeyFilterGuard(KeyFilter filter, QObject* parent);
+    KeyFilterGuard(std::function<KeyFilter()> filter, QObject* parent);
     // Installs a guard on the widget, owned by it.
     static void install(QObject* target, KeyFilter filter);
+    // The filter may change while the widget lives: a table's follows the column
+    // of its current cell.
+    static void install(QObject* target, std::function<KeyFilter()> filter);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    KeyFilter filter_;
+    std::function<KeyFilter()> filter_;
 };
 
 // The character code a key event carries, as the filters see it; 0 when none.

@@ -56,7 +56,7 @@ ScreenWindow* ModuleHost::ensureWindow(const std::string& screen) {
         w->onClose = [this, screen] { companionClosed(screen); };
     windows_[screen] = w;
     refresh(w);
-    w->adjustSize();
+    w->fitToScreen();
     centreOnScreen(w);
     return w;
 }

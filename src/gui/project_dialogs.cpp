@@ -17,7 +17,8 @@ namespace morve {
 namespace {
 
 QString& projectFolder() {
-    static QString folder = QDir::homePath();
+    // At first the folder the program was started in, as the report's PDF dialog.
+    static QString folder = QDir::currentPath();
     return folder;
 }
 
@@ -45,22 +46,18 @@ void dress(QFileDialog& dialog, bool saving) {
     }
 }
 
-// The name box of the save dialog filters every key as it is typed.
-void filterTypedNames(QFileDialog& dialog) {
-    auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    if (!name) return;
-    QObject::connect(name, &QLineEdit::textEdited, name, [name](const QString& text) {
-        const QString filtered = QString::fromStdString(filterProjectName(text.toStdString()));
-        if (filtered == text) return;
-        const int cursor = name->cursorPosition();
-        name->setText(filtered);
-        name->setCursorPosition(cursor);
-    });
-}
-
 }  // namespace
 
 void setProjectFolder(const QString& folder) { projectFolder() = folder; }
+
+QString savedProjectPath(const QString& chosen) {
+    // The dialog carries the folder (one typed before the name too, "obra/laje_L2");
+    // the name's filter sees the base name alone, without the ".mor" it may end in.
+    const QFileInfo file(chosen);
+    QString base = file.fileName();
+    if (base.endsWith(QStringLiteral(".mor"))) base.chop(4);
+    return QDir(file.absolutePath()).filePath(QString::fromStdString(projectFileName(base.toStdString())));
+}
 
 bool openProjectInto(ModuleHost& host, const std::string& path) {
     // The windows are shown anew from the state after a read, so what was typed in
@@ -101,15 +98,10 @@ void saveProjectFromDialog(ModuleHost& host, QWidget* parent) {
     dress(dialog, true);
     // A project is saved over a file of the same name without a question.
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    filterTypedNames(dialog);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
-    const QFileInfo chosen(dialog.selectedFiles().front());
-    // A file picked from the list keeps its name; a typed name, which the filter
-    // keeps free of points, gets the extension.
-    QString name = chosen.fileName();
-    if (!name.endsWith(QStringLiteral(".mor"))) name = QString::fromStdString(projectFileName(name.toStdString()));
-    setProjectFolder(chosen.absolutePath());
-    saveProjectFrom(host, local(QDir(chosen.absolutePath()).filePath(name)));
+    const QString path = savedProjectPath(dialog.selectedFiles().front());
+    setProjectFolder(QFileInfo(path).absolutePath());
+    saveProjectFrom(host, local(path));
 }
 
 bool startWithProject(MorveApp& app, const QString& path) {

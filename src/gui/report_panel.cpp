@@ -74,6 +74,7 @@ ReportPanel::ReportPanel(std::string key, const Module& module, const FormState&
         auto* b = new QPushButton(QString::fromUtf8(caption), this);
         b->setObjectName(QString::fromUtf8(name));
         if (tip) b->setToolTip(QString::fromUtf8(tip));
+        b->setAutoDefault(true);  // Enter presses the button that has the focus, as Space does
         return b;
     };
     command1_ = button("Command1", "Visualizar", "Visualizar o relatório antes da impressão");

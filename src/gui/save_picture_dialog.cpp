@@ -59,12 +59,19 @@ void printPicture(QWidget* parent, const Drawing& drawing) {
     printer.setPageSize(QPageSize(QPageSize::A4));
     QPrintDialog dialog(&printer, parent);
     if (dialog.exec() != QDialog::Accepted) return;
+    printDrawing(printer, drawing);
+}
+
+void printDrawing(QPrinter& printer, const Drawing& drawing) {
     QPainter painter(&printer);
     const QRectF page = printer.pageLayout().paintRectPixels(printer.resolution());
     // The drawing's own proportions, across the page's width at the top.
     const double w = drawing.right - drawing.left, h = drawing.bottom - drawing.top;
     const double height = w > 0 ? page.width() * h / w : page.height();
-    paintDrawing(painter, drawing, QRectF(0, 0, page.width(), std::min(height, page.height())));
+    // Texts and lines keep the size they have on a screen at 96 dots per inch, as
+    // in a printed report: a label of 9 is 9 points high on paper.
+    paintDrawing(painter, drawing, QRectF(0, 0, page.width(), std::min(height, page.height())),
+                 printer.resolution() / 96.0);
 }
 
 }  // namespace morve

@@ -9,6 +9,7 @@
 #include "draw/drawing.h"
 
 class QFileDialog;
+class QPrinter;
 class QWidget;
 
 namespace morve {
@@ -27,5 +28,7 @@ QFileDialog* pictureDialog(QWidget* parent);
 std::string savePicture(QWidget* parent, const Drawing& drawing, QSize size);
 // The drawing on the default printer, fitted to one A4 page in portrait.
 void printPicture(QWidget* parent, const Drawing& drawing);
+// The page itself, on a printer already set up (paper or PDF).
+void printDrawing(QPrinter& printer, const Drawing& drawing);
 
 }  // namespace morve

@@ -2,34 +2,40 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QButtonGroup>
-#include <QCheckBox>
+#include <QLayout>
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
-#include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStyle>
-#include <QTableWidget>
 #include <QToolBar>
 #include <QVBoxLayout>
 
 #include <set>
 
-#include "gui/grid_editing.h"
-#include "gui/key_filter_guard.h"
+#include "gui/control_widgets.h"
 #include "gui/keyboard.h"
 #include "gui/picture_views.h"
+#include "gui/window_places.h"
 
 namespace morve {
 
 namespace {
 
-QString q(const std::string& s) { return QString::fromStdString(s); }
+// The page of a window asks for all the room it would fill; the window decides,
+// from the screen it stands on, how much of it shows at once.
+class PageScroll : public QScrollArea {
+public:
+    using QScrollArea::QScrollArea;
+    QSize sizeHint() const override {
+        const int f = 2 * frameWidth();
+        return (widget() ? widget()->sizeHint() : QSize(200, 100)) + QSize(f, f);
+    }
+};
 
 QIcon toolbarIcon(const std::string& key, QStyle* style) {
     if (key == "Novo") return style->standardIcon(QStyle::SP_FileIcon);
@@ -48,43 +54,6 @@ QIcon toolbarIcon(const std::string& key, QStyle* style) {
 constexpr int kSpareColumn = 3;
 constexpr int kWholeWidth = kSpareColumn + 1;
 
-int boxWidth(const QWidget* w, int characters) {
-    return w->fontMetrics().horizontalAdvance(QLatin1Char('0')) * (characters > 0 ? characters : 9) + 12;
-}
-
-constexpr int kGridMinimumHeight = 160;
-constexpr int kWidestButton = 420;  // a button does not run across a maximised window
-constexpr int kGridRowsShown = 10;  // more rows than this scroll
-
-// Wide enough for its longest item, and for a few words while a list the module
-// fills is still empty.
-void fitListWidth(QListWidget* list) {
-    int widest = list->count() == 0 ? 120 : 0;
-    for (int i = 0; i < list->count(); ++i)
-        widest = std::max(widest, list->fontMetrics().horizontalAdvance(list->item(i)->text()));
-    list->setMinimumWidth(std::min(widest + 36, 360));
-    // A wider window gives a list no more to show.
-    list->setMaximumWidth(std::max(list->minimumWidth(), 280));
-}
-
-// The items the module gives a list now; the widget is rebuilt only when they changed.
-void showItems(QListWidget* list, const std::vector<std::string>& items) {
-    bool same = list->count() == static_cast<int>(items.size());
-    for (int i = 0; same && i < list->count(); ++i) same = list->item(i)->text() == q(items[static_cast<std::size_t>(i)]);
-    if (same) return;
-    list->clear();
-    for (const auto& item : items) list->addItem(q(item));
-    fitListWidth(list);
-}
-
-// A short table shows all its rows without a scroll bar; a long one scrolls.
-void fitGridHeight(QTableWidget* table) {
-    const int rows = std::min(table->rowCount(), kGridRowsShown);
-    const int rowHeight = table->verticalHeader()->defaultSectionSize();
-    const int needed = table->horizontalHeader()->sizeHint().height() + rows * rowHeight + 2 * table->frameWidth() + 2;
-    table->setMinimumHeight(std::max(kGridMinimumHeight, needed));
-}
-
 }  // namespace
 
 const std::vector<ToolbarButton>& toolbarButtons() {
@@ -102,6 +71,8 @@ ScreenWindow::ScreenWindow(const ScreenDecl& screen, QWidget* parent) : QWidget(
     setWindowTitle(q(decl_.title));
     setObjectName(q(decl_.name));
     auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->setSpacing(0);
 
     if (decl_.toolbar) {
         auto* bar = new QToolBar(this);
@@ -120,6 +91,16 @@ ScreenWindow::ScreenWindow(const ScreenDecl& screen, QWidget* parent) : QWidget(
         }
         outer->addWidget(bar);
     }
+    // Everything under the toolbar lies on one page, which scrolls where the
+    // screen is shorter or narrower than the page: the same for every screen, so
+    // a module never places its own windows for a small screen.
+    auto* scroll = new PageScroll(this);
+    scroll->setObjectName(QStringLiteral("page"));
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    outer->addWidget(scroll, 1);
+    auto* page = new QWidget;
+    auto* body = new QVBoxLayout(page);
     if (!decl_.heading.empty()) {
         auto* heading = new QLabel(q(decl_.heading), this);
         heading->setObjectName(QStringLiteral("heading"));
@@ -129,7 +110,7 @@ ScreenWindow::ScreenWindow(const ScreenDecl& screen, QWidget* parent) : QWidget(
         heading->setFont(f);
         heading->setAlignment(Qt::AlignCenter);
         heading->setStyleSheet(QStringLiteral("color: #00307a; padding: 4px;"));
-        outer->addWidget(heading);
+        body->addWidget(heading);
     }
 
     auto* frames = new QGridLayout();
@@ -189,15 +170,18 @@ ScreenWindow::ScreenWindow(const ScreenDecl& screen, QWidget* parent) : QWidget(
         }
     }
     const bool grows = !growing.empty();
-    outer->addLayout(frames, grows && !growing.count(loose) ? 1 : 0);
-    outer->addLayout(loose, growing.count(loose) ? 1 : 0);
-    if (!grows) outer->addStretch(1);
+    body->addLayout(frames, grows && !growing.count(loose) ? 1 : 0);
+    body->addLayout(loose, growing.count(loose) ? 1 : 0);
+    if (!grows) body->addStretch(1);
+    scroll->setWidget(page);
 
-    // Esc on a companion is its "&Voltar", when that is there to press; a module's
-    // own window has no such way back, and its close would lose the case.
+    // Esc on a companion is its way back ("&Voltar", or the command it names),
+    // when that is there to press; a module's own window has no such way back,
+    // and its close would lose the case.
     onEscape(this, [this] {
         for (const ControlDecl& c : decl_.controls) {
-            if (c.kind != ControlKind::Command || c.caption != "&Voltar") continue;
+            const bool back = decl_.escape.empty() ? c.caption == "&Voltar" : c.name == decl_.escape;
+            if (c.kind != ControlKind::Command || !back) continue;
             auto* button = static_cast<QPushButton*>(controls_.at(c.name));
             if (button->isVisible() && button->isEnabled()) button->click();
             return;
@@ -205,104 +189,35 @@ ScreenWindow::ScreenWindow(const ScreenDecl& screen, QWidget* parent) : QWidget(
     });
 }
 
-QString ScreenWindow::qualified(const std::string& control) const { return q(decl_.name + "." + control); }
-
-ScreenWindow::ControlParts ScreenWindow::makeControl(const ControlDecl& c, const std::string& frameCaption) {
-    ControlParts parts;
-    // Buttons, options, checks and labels carry their caption themselves.
-    const bool captioned = c.kind == ControlKind::TextBox || c.kind == ControlKind::ResultBox ||
-                           c.kind == ControlKind::List || c.kind == ControlKind::Grid;
-    if (captioned && !c.caption.empty() && c.caption != frameCaption)
-        parts.caption = new QLabel(q(c.caption), this);
-    if (!c.unit.empty() && (c.kind == ControlKind::TextBox || c.kind == ControlKind::ResultBox))
-        parts.unit = new QLabel(q(c.unit), this);
-
-    switch (c.kind) {
-        case ControlKind::TextBox:
-        case ControlKind::ResultBox: {
-            auto* edit = new QLineEdit(q(c.text), this);
-            edit->setMinimumWidth(boxWidth(edit, c.width));
-            edit->setMaximumWidth(boxWidth(edit, c.width > 0 ? c.width + 4 : 14));
-            if (c.kind == ControlKind::ResultBox) {
-                edit->setReadOnly(true);
-                edit->setFocusPolicy(Qt::ClickFocus);
-                edit->setStyleSheet(QStringLiteral("QLineEdit { background: #f3f3e8; }"));
-            } else {
-                KeyFilterGuard::install(edit, c.filter);
-            }
-            parts.widget = edit;
-            break;
-        }
-        case ControlKind::Label: {
-            auto* label = new QLabel(q(c.caption), this);
-            label->setWordWrap(!c.sameRow);
-            parts.widget = label;
-            break;
-        }
-        case ControlKind::List: {
-            auto* list = new QListWidget(this);
-            for (const auto& item : c.items) list->addItem(q(item));
-            const int rows = c.height > 0 ? c.height : std::min<int>(static_cast<int>(c.items.size()), 4);
-            const int rowHeight = list->sizeHintForRow(0) > 0 ? list->sizeHintForRow(0) : 18;
-            list->setFixedHeight(std::max(1, rows) * rowHeight + 2 * list->frameWidth() + 2);
-            fitListWidth(list);
-            // A module may answer the pick at once (a bar whose diagrams are drawn
-            // again), so the click reaches it as a command of the list's name.
-            const std::string name = c.name;
-            connect(list, &QListWidget::itemClicked, this, [this, name] {
-                if (onCommand) onCommand(name);
-            });
-            parts.widget = list;
-            break;
-        }
-        case ControlKind::Option: {
-            auto* radio = new QRadioButton(q(c.caption), this);
-            QButtonGroup*& group = groups_[c.group];
-            if (!group) group = new QButtonGroup(this);
-            group->addButton(radio);
-            // A module may answer the choice at once (a section type swapping its
-            // frames), so the click reaches it as a command of the option's name.
-            const std::string name = c.name;
-            connect(radio, &QRadioButton::clicked, this, [this, name] {
-                if (onCommand) onCommand(name);
-            });
-            parts.widget = radio;
-            break;
-        }
-        case ControlKind::Check: parts.widget = new QCheckBox(q(c.caption), this); break;
-        case ControlKind::Grid: {
-            auto* table = new QTableWidget(this);
-            table->setColumnCount(static_cast<int>(c.grid.header.size()));
-            table->verticalHeader()->setVisible(false);
-            table->setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::DoubleClicked |
-                                   QAbstractItemView::EditKeyPressed | QAbstractItemView::SelectedClicked);
-            makeSpreadsheet(table, c);
-            table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-            table->setMinimumHeight(kGridMinimumHeight);
-            parts.widget = table;
-            break;
-        }
-        case ControlKind::Picture: parts.widget = new DrawingView(QSize(c.width, c.height), this); break;
-        case ControlKind::Chart: parts.widget = new ChartBox(QSize(c.width, c.height), this); break;
-        case ControlKind::Command: {
-            auto* button = new QPushButton(q(c.caption), this);
-            button->setMaximumWidth(kWidestButton);
-            const std::string name = c.name;
-            connect(button, &QPushButton::clicked, this, [this, name] {
-                if (onCommand) onCommand(name);
-            });
-            parts.widget = button;
-            break;
-        }
+void ScreenWindow::fitToScreen() {
+    // The sizes the texts just shown ask for (a table's columns, a long result)
+    // reach the page's layout through posted requests: settled first.
+    // Before the window is first shown its parts have not taken their style (the
+    // fonts and margins that make their size) and its layouts are not live, so a
+    // frame's size stays as first measured: the parts are styled and every frame
+    // is measured anew.
+    ensurePolished();
+    for (QWidget* part : findChildren<QWidget*>()) {
+        if (!part->layout()) continue;
+        part->layout()->invalidate();
+        part->updateGeometry();
     }
-    parts.widget->setObjectName(q(c.name));
-    if (!c.toolTip.empty()) parts.widget->setToolTip(q(c.toolTip));
-    controls_[c.name] = parts.widget;
-    auto& labels = companions_[c.name];
-    for (QWidget* label : {static_cast<QWidget*>(parts.caption), static_cast<QWidget*>(parts.unit)})
-        if (label) labels.push_back(label);
-    return parts;
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    layout()->activate();
+    // The page's own wish rather than the window layout's copy of it, which may
+    // lag it by a pixel: a pixel short and both scroll bars come up.
+    auto* scroll = findChild<QScrollArea*>(QStringLiteral("page"));
+    QSize wanted = sizeHint().expandedTo(scroll->sizeHint());
+    if (decl_.toolbar) wanted.setHeight(std::max(wanted.height(), scroll->sizeHint().height() + findChild<QToolBar*>()->sizeHint().height()));
+    const QSize room = roomOnScreen(this);
+    // Where the page scrolls one way, its scroll bar takes room the other way.
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2;
+    if (wanted.height() > room.height()) wanted.rwidth() += bar;
+    if (wanted.width() > room.width()) wanted.rheight() += bar;
+    resize(wanted.boundedTo(room));
 }
+
+QString ScreenWindow::qualified(const std::string& control) const { return q(decl_.name + "." + control); }
 
 void ScreenWindow::placeInRow(QHBoxLayout* row, const ControlParts& parts) {
     // Boxes in a phrase keep their usual width; the phrase does not spread out.
@@ -315,10 +230,18 @@ bool ScreenWindow::addControl(QGridLayout* grid, const ControlDecl& c, const std
     const ControlParts parts = makeControl(c, frameCaption);
     const int row = grid->rowCount();
     if (parts.caption) grid->addWidget(parts.caption, row, 0);
-    if (parts.unit) grid->addWidget(parts.unit, row, 2);
     switch (c.kind) {
         case ControlKind::TextBox:
-        case ControlKind::ResultBox: grid->addWidget(parts.widget, row, 1, Qt::AlignLeft); return false;
+        case ControlKind::ResultBox: {
+            // The unit follows its own box, however wide a box on another row is.
+            auto* pair = new QHBoxLayout();
+            pair->setContentsMargins(0, 0, 0, 0);
+            pair->addWidget(parts.widget);
+            if (parts.unit) pair->addWidget(parts.unit);
+            pair->addStretch(1);
+            grid->addLayout(pair, row, 1, 1, 2);
+            return false;
+        }
         case ControlKind::Label:
             // A wrapped label keeps out of the spare column: a span that takes it in
             // gets the height of one line while the text wraps to two.
@@ -354,123 +277,6 @@ QAction* ScreenWindow::toolbarAction(const std::string& key) const {
     return it == toolbar_.end() ? nullptr : it->second;
 }
 
-void ScreenWindow::storeTo(FormState& state) const {
-    for (const ControlDecl& c : decl_.controls) {
-        const std::string name = decl_.name + "." + c.name;
-        QWidget* w = controls_.at(c.name);
-        switch (c.kind) {
-            case ControlKind::TextBox:
-            case ControlKind::ResultBox:
-                state.setText(name, static_cast<QLineEdit*>(w)->text().toStdString());
-                break;
-            case ControlKind::List: {
-                auto selected = static_cast<QListWidget*>(w)->selectedItems();
-                state.setText(name, selected.isEmpty() ? "" : selected.front()->text().toStdString());
-                break;
-            }
-            case ControlKind::Option:
-                state.setText(name, static_cast<QRadioButton*>(w)->isChecked() ? "True" : "");
-                break;
-            case ControlKind::Check:
-                state.setText(name, static_cast<QCheckBox*>(w)->isChecked() ? "True" : "");
-                break;
-            case ControlKind::Grid: {
-                auto* table = static_cast<QTableWidget*>(w);
-                GridRows& rows = state.grid(name);
-                if (rows.empty()) rows.push_back(c.grid.header);
-                rows.resize(static_cast<std::size_t>(table->rowCount()) + 1);
-                for (int r = 0; r < table->rowCount(); ++r) {
-                    auto& cells = rows[static_cast<std::size_t>(r) + 1];
-                    cells.resize(static_cast<std::size_t>(table->columnCount()));
-                    for (int col = 0; col < table->columnCount(); ++col) {
-                        QTableWidgetItem* item = table->item(r, col);
-                        cells[static_cast<std::size_t>(col)] = item ? item->text().toStdString() : "";
-                    }
-                }
-                break;
-            }
-            default: break;
-        }
-    }
-}
-
-void ScreenWindow::loadFrom(const FormState& state) {
-    for (const ControlDecl& c : decl_.controls) {
-        const std::string name = decl_.name + "." + c.name;
-        QWidget* w = controls_.at(c.name);
-        switch (c.kind) {
-            case ControlKind::TextBox:
-            case ControlKind::ResultBox: {
-                auto* edit = static_cast<QLineEdit*>(w);
-                const QString text = q(state.text(name));
-                if (edit->text() != text) edit->setText(text);
-                break;
-            }
-            case ControlKind::List: {
-                auto* list = static_cast<QListWidget*>(w);
-                showItems(list, state.items(name));
-                const QString text = q(state.text(name));
-                QListWidgetItem* match = nullptr;
-                for (int i = 0; i < list->count(); ++i)
-                    if (list->item(i)->text() == text) match = list->item(i);
-                list->clearSelection();
-                if (match) {
-                    list->setCurrentItem(match);
-                    match->setSelected(true);
-                } else {
-                    list->setCurrentRow(-1);
-                }
-                break;
-            }
-            case ControlKind::Option: {
-                auto* radio = static_cast<QRadioButton*>(w);
-                QButtonGroup* group = radio->group();
-                const bool on = state.option(name);
-                if (group && !on && radio->isChecked()) {
-                    group->setExclusive(false);
-                    radio->setChecked(false);
-                    group->setExclusive(true);
-                } else {
-                    radio->setChecked(on);
-                }
-                break;
-            }
-            case ControlKind::Check: static_cast<QCheckBox*>(w)->setChecked(state.option(name)); break;
-            case ControlKind::Grid: {
-                auto* table = static_cast<QTableWidget*>(w);
-                const GridRows& rows = state.grid(name);
-                const std::vector<std::string>& header = rows.empty() ? c.grid.header : rows.front();
-                table->setColumnCount(static_cast<int>(header.size()));
-                QStringList labels;
-                for (const auto& h : header) labels << q(h);
-                table->setHorizontalHeaderLabels(labels);
-                table->setRowCount(rows.empty() ? 0 : static_cast<int>(rows.size()) - 1);
-                fitGridHeight(table);
-                for (std::size_t r = 1; r < rows.size(); ++r) {
-                    for (int col = 0; col < table->columnCount(); ++col) {
-                        const std::string& text =
-                            static_cast<std::size_t>(col) < rows[r].size() ? rows[r][static_cast<std::size_t>(col)] : std::string();
-                        auto* item = new QTableWidgetItem(q(text));
-                        if (col == 0 && c.grid.firstColumnLocked) {
-                            item->setFlags(item->flags() & ~Qt::ItemIsEditable);
-                            item->setBackground(palette().window());
-                        }
-                        table->setItem(static_cast<int>(r) - 1, col, item);
-                    }
-                }
-                break;
-            }
-            default: break;
-        }
-        w->setEnabled(state.enabled(name));
-        const bool visible = state.visible(name);
-        w->setVisible(visible);
-        for (QWidget* label : companions_[c.name]) label->setVisible(visible);
-    }
-    for (const auto& [frame, widget] : frames_) widget->setVisible(state.visible(decl_.name + "." + frame));
-    for (const auto& [key, action] : toolbar_) action->setEnabled(state.enabled(decl_.name + ".Toolbar1." + key));
-}
-
 std::vector<std::string> ScreenWindow::pictures() const {
     std::vector<std::string> out;
     for (const auto& c : decl_.controls)
@@ -496,6 +302,17 @@ void ScreenWindow::setChart(const std::string& chart, const Chart& data) {
 void ScreenWindow::closeQuietly() {
     quiet_ = true;
     close();
+}
+
+void ScreenWindow::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (shownBefore_) return;
+    shownBefore_ = true;
+    // Some parts know their size only once shown (a styled box, a heading in its
+    // bold font): the window takes its measure again, still within the screen.
+    const QSize before = size();
+    fitToScreen();
+    if (size() != before) centreOnScreen(this);
 }
 
 void ScreenWindow::closeEvent(QCloseEvent* event) {

@@ -45,6 +45,9 @@ public:
     QWidget* control(const std::string& name) const;
     QAction* toolbarAction(const std::string& key) const;
 
+    // As large as its page asks, up to the room the screen has; the rest scrolls.
+    void fitToScreen();
+
     void storeTo(FormState& state) const;
     void loadFrom(const FormState& state);
 
@@ -63,6 +66,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     // A control's widget with its caption and unit labels, made but not yet placed.
@@ -86,6 +90,7 @@ private:
     std::map<std::string, QButtonGroup*> groups_;
     std::map<std::string, QAction*> toolbar_;
     bool quiet_ = false;
+    bool shownBefore_ = false;
 };
 
 }  // namespace morve

@@ -48,6 +48,8 @@ QRect screenArea(const QWidget* window) {
     return screen ? screen->availableGeometry() : QRect(0, 0, 800, 600);
 }
 
+QSize roomOnScreen(const QWidget* window) { return screenArea(window).size().shrunkBy(frameMargins(window)); }
+
 QRect framedGeometry(const QWidget* window) {
     const QMargins m = frameMargins(window);
     const bool framed = window->frameGeometry() != window->geometry();
@@ -57,8 +59,7 @@ QRect framedGeometry(const QWidget* window) {
 
 void keepOnScreen(QWidget* window) {
     const QRect area = screenArea(window);
-    const QMargins m = frameMargins(window);
-    const QSize room = area.size().shrunkBy(m);
+    const QSize room = roomOnScreen(window);
     if (window->width() > room.width() || window->height() > room.height())
         window->resize(window->size().boundedTo(room));
     const QRect now = framedGeometry(window);

@@ -3,10 +3,13 @@
 // whole window, frame and title bar included, on the screen's available area.
 class QWidget;
 class QRect;
+class QSize;
 
 namespace morve {
 
 QRect screenArea(const QWidget* window);
+// The largest size of the window whose frame still lies on the available area.
+QSize roomOnScreen(const QWidget* window);
 // Left = (screen width - window width) / 2, Top = (screen height - window height) / 2.
 void centreOnScreen(QWidget* window);
 // The help beside a module: Left = screen width - 1.01 x window width,

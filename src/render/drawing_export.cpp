@@ -4,7 +4,9 @@
 #include <QPainter>
 #include <QSvgGenerator>
 
+#include <fcntl.h>
 #include <gif_lib.h>
+#include <unistd.h>
 
 #include <vector>
 
@@ -37,7 +39,11 @@ bool writeGif(const QImage& picture, const QString& path) {
     ColorMapObject* map = GifMakeMapObject(256, colours.data());
     if (!map) return false;
     int error = 0;
-    GifFileType* gif = EGifOpenFileName(path.toLocal8Bit().constData(), false, &error);
+    // Opened here rather than by giflib, which makes its files readable by their
+    // owner only: a drawing gets the permissions of any file the user saves.
+    const int fd = ::open(path.toLocal8Bit().constData(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
+    GifFileType* gif = fd >= 0 ? EGifOpenFileHandle(fd, &error) : nullptr;
+    if (fd >= 0 && !gif) ::close(fd);
     bool ok = gif != nullptr;
     const int w = indexed.width(), h = indexed.height();
     ok = ok && EGifPutScreenDesc(gif, w, h, 8, 0, map) == GIF_OK;

@@ -137,6 +137,11 @@ void paintDrawing(QPainter& painter, const Drawing& drawing, const QRectF& targe
             // The anchor is the middle of the text's height, as the labels of a
             // sketch sit beside what they name.
             at.ry() += (metrics.ascent() - metrics.descent()) / 2;
+            // A label near the edge of the picture (a dimension on the left of a
+            // floor) moves in rather than losing its first letters to the edge.
+            at.setX(std::clamp(at.x(), target.left(), std::max(target.left(), target.right() - width)));
+            at.setY(std::clamp(at.y(), target.top() + metrics.ascent(),
+                               std::max(target.top() + metrics.ascent(), target.bottom() - metrics.descent())));
             painter.drawText(at, text);
         }
     }

@@ -47,7 +47,7 @@ ScreenDecl mainScreen() {
     s.frame("Frame1", "Materiais", 0, 0)
         .box("Text1", "fck(MPa) =", "20")
         .box("Text2", "Ecs(MPa)=", "25757")
-        .box("Text3", "j =", "2.5")
+        .box("Text3", "φ=", "2.5")
         .box("Text4", "Deformação imposta", "0.00050")
         .box("Text5", "Es(GPa)=", "200");
     s.frame("Frame2", "Tipo de seção", 1, 0)

@@ -77,9 +77,13 @@ public:
         return {s.build(), r.build()};
     }
 
-    // The three frames of loads stay in view until an option is pressed, so that a
-    // front end that only toggles the options still reaches every box.
-    void load(FormState& state, const StartDefaults& defaults) const override { loadConcreteDefaults(state, defaults); }
+    // Only the boxes of the kind of load selected are in view, from the start as
+    // after a choice; boxes of a hidden frame still take typed text.
+    void load(FormState& state, const StartDefaults& defaults) const override {
+        loadConcreteDefaults(state, defaults);
+        for (LoadKind k : {LoadKind::Point, LoadKind::Line, LoadKind::Patch})
+            state.setVisible(std::string("Form23.") + boxesOf(k).frame, k == kindOf(state));
+    }
 
     Outcome press(const std::string& command, FormState& s, Prompter& prompter) const override {
         const std::string c = command.rfind("Form23.", 0) == 0 ? command.substr(7) : command;

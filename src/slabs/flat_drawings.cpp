@@ -85,8 +85,6 @@ Drawing flatSurfaceDrawing(const FlatResults& r, FlatQuantity quantity, double l
     const Point o = place(raw(0, 0, 0)), ex = place(raw(ux, 0, 0)), ey = place(raw(0, vy, 0)),
                 exy = place(raw(ux, vy, 0));
     g.polyline({o, ex, exy, ey}, true, colours::grey);
-    g.text({ex.x + 12, ex.y + 12}, "X", 10);
-    g.text({ey.x - 16, ey.y - 6}, "Y", 10);
 
     // The cells from the back of the picture to its front: each covers what it
     // hides of the cells behind.
@@ -104,6 +102,9 @@ Drawing flatSurfaceDrawing(const FlatResults& r, FlatQuantity quantity, double l
         g.polyline(quad, true, white, 1, true);
         g.polyline(quad, true, ink, 1);
     }
+    // The axes' names after the surface, which would cover the one in front.
+    g.text({ex.x + 12, ex.y + 12}, "X", 10);
+    g.text({ey.x - 16, ey.y - 6}, "Y", 10);
 
     g.text({60, 720}, "Máximo = " + formatResult(f.max, 2), 9);
     g.text({60, 744}, "Mínimo = " + formatResult(f.min, 2), 9);

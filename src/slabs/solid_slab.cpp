@@ -131,7 +131,7 @@ std::vector<ScreenDecl> Form20::screens() const {
     s.frame("Frame4", "Diâmetro das barras:", 1, 1)
         .list("List1", "Diâmetro das barras:", BarCatalogue::slabBars())
         .tip(BarCatalogue::kBarListTip);
-    addCriterionFrames(s);
+    addCriterionFrames(s, "Critério de ductilidade");
     s.frame("Frame8", "Armadura calculada:", 0, 2, 2, 1)
         .result("Text7", "As(cm2/m)=")
         .result("Text8", "Diâmetro=")

@@ -119,6 +119,20 @@ private slots:
         // Nothing but margins below the last frame.
         QWidget* answer = form7->control("Frame8");
         QVERIFY(form7->height() - (answer->mapTo(form7, QPoint(0, 0)).y() + answer->height()) < 40);
+        // A result screen whose page scrolls on a small screen: maximised, its
+        // diagrams take the room.
+        for (const ScreenDecl& screen : ModuleRegistry::find("Form34")->screens()) {
+            if (screen.name != "Form34e") continue;
+            ScreenWindow diagrams(screen);
+            diagrams.fitToScreen();
+            diagrams.show();
+            settle();
+            const int small = diagrams.control("Picture1")->width();
+            diagrams.resize(1900, 1400);
+            settle();
+            QVERIFY(diagrams.control("Picture1")->width() > small + 500);
+            QVERIFY(diagrams.control("Picture2")->height() > 230);
+        }
     }
 
     // A long calculation shows its status button while it runs and hides it after.
@@ -137,6 +151,41 @@ private slots:
             user.click(module, command);
             QVERIFY2(boxes > 0 && shown == boxes && !status->isVisible(), module);
         }
+    }
+
+    // Enter on a focused button presses it, as Space does; Esc leaves a result
+    // screen by its way back, whatever that is called.
+    void keysPressTheButtonsUsersExpect() {
+        ModuleUser user;
+        QVERIFY(user.open("Form34"));
+        QWidget* beam = user.control("Form34", "Command8");
+        user.type("Form34", "Text3", "2");
+        user.type("Form34", "Text4", "3");
+        beam->setFocus();
+        QTest::keyClick(beam, Qt::Key_Return);
+        settle();
+        QVERIFY(user.shown("Form34b"));
+        std::vector<std::string> pressed;
+        for (const ScreenDecl& screen : ModuleRegistry::find("Form33")->screens()) {
+            if (screen.name != "Form33e") continue;
+            ScreenWindow results(screen);
+            results.onCommand = [&](const std::string& c) { pressed.push_back(c); };
+            results.show();
+            results.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&results));
+            QTest::keyClick(&results, Qt::Key_Escape);
+        }
+        QCOMPARE(pressed, std::vector<std::string>{"Command4"});
+    }
+
+    // Only the boxes of the load selected are in view from the start.
+    void concentratedLoadStartsAlone() {
+        ModuleUser user;
+        QVERIFY(user.open("Form23"));
+        QVERIFY(user.control("Form23", "Frame5")->isVisible());
+        QVERIFY(!user.control("Form23", "Frame6")->isVisible() && !user.control("Form23", "Frame7")->isVisible());
+        user.click("Form23", "Option3");
+        QVERIFY(user.control("Form23", "Frame7")->isVisible() && !user.control("Form23", "Frame5")->isVisible());
     }
 
     void helpPagesWriteDecimalsWithAPoint() {

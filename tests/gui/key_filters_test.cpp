@@ -4,6 +4,7 @@
 #include <QTableWidget>
 #include <QTest>
 
+#include "app/module.h"
 #include "app/screen.h"
 #include "beams/form7.h"
 #include "gui/gui_prompter.h"
@@ -82,6 +83,44 @@ private slots:
         w.storeTo(state);
         QCOMPARE(state.cell("Grade1", 1, 1), std::string("3"));
         QCOMPARE(state.cell("Grade1", 1, 0), std::string("1"));
+    }
+
+    // Counts take digits only; lengths and stiffnesses take a decimal point, and a
+    // comma comes as the point: a span typed 4,5 is 4.5 m, never 45 m.
+    void beamTablesFilterByColumn() {
+        const Module* form34 = ModuleRegistry::find("Form34");
+        QVERIFY(form34);
+        ScreenDecl bars;
+        for (const ScreenDecl& screen : form34->screens())
+            if (screen.name == "Form34b") bars = screen;
+        ScreenWindow w(bars);
+        FormState state("Form34", form34->screens());
+        state.grid("Form34b.Grade1") = {{"Vão", "L (m)", "I (cm4)"}, {"1", "", ""}};
+        state.grid("Form34b.Grade2") = {{"Nó", "Tipo", "Ig (cm3)"}, {"", "", ""}};
+        w.loadFrom(state);
+        w.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&w));
+        const struct {
+            const char* grid;
+            int column;
+            const char* typed;
+            const char* kept;
+            int beeps;
+        } cells[] = {{"Grade1", 1, "4,5", "4.5", 0}, {"Grade1", 2, "208333.5", "208333.5", 0},
+                     {"Grade2", 0, "2,", "2", 1},    {"Grade2", 1, "1.", "1", 1},
+                     {"Grade2", 2, "12,5", "12.5", 0}};
+        for (const auto& c : cells) {
+            beeps = 0;
+            auto* table = qobject_cast<QTableWidget*>(w.control(c.grid));
+            table->setFocus();
+            table->setCurrentCell(0, c.column);
+            // The first key opens the cell's editor, which takes the rest.
+            QTest::keyClick(table, c.typed[0]);
+            QTest::keyClicks(QApplication::focusWidget(), c.typed + 1);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+            QCOMPARE(table->item(0, c.column)->text(), QString(c.kept));
+            QCOMPARE(beeps, c.beeps);
+        }
     }
 };
 

@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScrollArea>
 #include <QTableWidget>
 #include <QTest>
 
@@ -77,9 +78,17 @@ public:
         morve::setGuiPrompter(prompter_.get());
     }
 
+    // A window's page scrolls on a small screen: the user brings the control into
+    // view before clicking it, as a click lands where the window shows it.
+    static void reveal(QWidget* control) {
+        for (QWidget* w = control ? control->parentWidget() : nullptr; w; w = w->parentWidget())
+            if (auto* page = qobject_cast<QScrollArea*>(w)) page->ensureWidgetVisible(control, 0, 0);
+    }
+
     void type(const std::string& screenName, const char* box, const char* text) {
         auto* edit = qobject_cast<QLineEdit*>(screen(screenName)->control(box));
         QVERIFY2(edit, box);
+        reveal(edit);
         edit->setFocus();
         edit->selectAll();
         QTest::keyClick(edit, Qt::Key_Delete);
@@ -94,6 +103,7 @@ public:
     void pick(const std::string& screenName, const char* list, const char* item) {
         auto* w = qobject_cast<QListWidget*>(screen(screenName)->control(list));
         QVERIFY2(w, list);
+        reveal(w);
         const auto found = w->findItems(QString::fromUtf8(item), Qt::MatchExactly);
         QVERIFY2(!found.isEmpty(), item);
         w->scrollToItem(found.front());
@@ -126,7 +136,11 @@ public:
     void click(const std::string& screenName, const char* command) {
         auto* button = qobject_cast<QAbstractButton*>(screen(screenName)->control(command));
         QVERIFY2(button && button->isVisible() && button->isEnabled(), command);
-        QTest::mouseClick(button, Qt::LeftButton);
+        reveal(button);
+        // An option or a check answers a click on its mark or its words, which
+        // stand at the left of a row that may run wider.
+        const bool marked = button->inherits("QRadioButton") || button->inherits("QCheckBox");
+        QTest::mouseClick(button, Qt::LeftButton, {}, marked ? QPoint(8, button->height() / 2) : QPoint());
         settle();
     }
     bool enabled(const std::string& screenName, const char* control) const {

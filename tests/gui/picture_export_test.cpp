@@ -6,6 +6,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <QPrinter>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+
 #include <gif_lib.h>
 
 #include "app/module.h"
@@ -64,6 +69,11 @@ private slots:
         QTemporaryDir dir;
         const QString path = dir.filePath("metades.gif");
         QCOMPARE(exportDrawing(halves(), path, QSize(200, 100)), std::string());
+        // Readable by others as any file the user saves (a PDF, say), whatever the umask.
+        QFile other(dir.filePath("outro.pdf"));
+        QVERIFY(other.open(QIODevice::WriteOnly));
+        other.close();
+        QCOMPARE(QFileInfo(path).permissions(), QFileInfo(other.fileName()).permissions());
         const DecodedGif gif = decode(path);
         QCOMPARE(gif.width, 200);
         QCOMPARE(gif.height, 100);
@@ -114,6 +124,33 @@ private slots:
         QCOMPARE(dialog->nameFilters(), pictureNameFilters());
         QVERIFY(dialog->testOption(QFileDialog::DontConfirmOverwrite));
         QCOMPARE(dialog->labelText(QFileDialog::FileType), QString("Arquivo do tipo:"));
+    }
+
+    // On paper a label of the drawing is as many points high as it is pixels on
+    // the screen; poppler measures the words of the PDF.
+    void printedLabelsKeepAReadableSize() {
+        if (QStandardPaths::findExecutable("pdftotext").isEmpty()) QSKIP("poppler-utils missing");
+        QTemporaryDir dir;
+        Drawing d = halves();
+        d.text({1, 1}, "Máximo", 9);
+        d.text({12, 1}, "12", 7);
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(dir.filePath("desenho.pdf"));
+        printer.setPageSize(QPageSize(QPageSize::A4));
+        printDrawing(printer, d);
+        QProcess words;
+        words.start("pdftotext", {"-bbox", printer.outputFileName(), "-"});
+        QVERIFY(words.waitForFinished(10000));
+        const QString html = QString::fromUtf8(words.readAllStandardOutput());
+        const QRegularExpression word("yMin=\"([\\d.]+)\" xMax=\"[\\d.]+\" yMax=\"([\\d.]+)\">([^<]+)<");
+        int seen = 0;
+        for (auto m = word.globalMatch(html); m.hasNext(); ++seen) {
+            const auto w = m.next();
+            const double height = w.captured(2).toDouble() - w.captured(1).toDouble();  // points
+            QVERIFY2(height >= 7, qPrintable(w.captured(3) + " " + QString::number(height)));
+        }
+        QCOMPARE(seen, 2);
     }
 };
 

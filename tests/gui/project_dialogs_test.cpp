@@ -45,7 +45,8 @@ private slots:
         title(app)->setText("Viga \"V1\", térreo");
         state(app).grid("Form90b.Grade1")[1][1] = "4.5";
 
-        QString labels;
+        QString labels, startFolder;
+        QVERIFY(QDir(dir.path()).mkdir("obra"));
         QTimer::singleShot(0, [&] {
             auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
             QVERIFY(dialog);
@@ -53,13 +54,27 @@ private slots:
                 labels += dialog->labelText(label) + "|";
             dialog->setDirectory(dir.path());
             auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
-            QTest::keyClicks(name, "viga.v2");
+            // A folder typed before the name is the dialog's to follow; the name
+            // keeps its blank and its extension.
+            name->setText("obra/laje L2.mor");  // typed keys would open the completer's list
             QTest::keyClick(name, Qt::Key_Return);
         });
         app.module()->mainWindow()->toolbarAction("Salvar")->trigger();
         QCOMPARE(labels, QString("Salvar em:|Nome do arquivo:|&Salvar|Cancelar|"));
-        const std::string saved = QDir(dir.path()).filePath("viga_v2.mor").toStdString();
+        const std::string saved = QDir(dir.path()).filePath("obra/laje L2.mor").toStdString();
         QVERIFY(QFileInfo::exists(QString::fromStdString(saved)));
+        // The next dialog opens where the last file went.
+        QTimer::singleShot(0, [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            startFolder = dialog->directory().absolutePath();
+            dialog->reject();
+        });
+        app.module()->mainWindow()->toolbarAction("Salvar")->trigger();
+        QCOMPARE(startFolder, QDir(dir.path()).filePath("obra"));
+        // The program's filter still holds for the base name.
+        QCOMPARE(savedProjectPath("/tmp/viga.v2"), QString("/tmp/viga_v2.mor"));
+        QCOMPARE(savedProjectPath("/tmp/a|b*.mor"), QString("/tmp/a_b_.mor"));
 
         // Another module's file: the message, and the texts typed since are kept.
         const std::string other = QDir(dir.path()).filePath("outro.mor").toStdString();

@@ -37,7 +37,7 @@ private slots:
             ModuleUser user;
             QVERIFY2(user.open(r.module), r.module);
             for (auto [box, text] : r.boxes) user.type(r.module, box, text);
-            if (*r.option) QTest::mouseClick(qobject_cast<QRadioButton*>(user.control(r.module, r.option)), Qt::LeftButton);
+            if (*r.option) user.click(r.module, r.option);
             if (*r.list) user.pick(r.module, r.list, r.item);
             if (std::string(r.module) == "Form20") user.pick(r.module, "List6", "1");
             user.click(r.module, r.command);

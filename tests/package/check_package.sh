@@ -64,7 +64,7 @@ appstreamcli validate --no-net "$root/metainfo/$appid.metainfo.xml" >"$work/apps
     || { cat "$work/appstream.log"; fail "appstreamcli validate"; }
 # The pictures it names are ones `make screenshots` writes.
 for shot in $(grep -o '[a-z0-9-]*\.png</image>' "$root/metainfo/$appid.metainfo.xml" | sed 's#</image>##'); do
-    grep -q "\"$shot\"\|/$shot\"" "$source/src/gui/screenshots.cpp" || fail "captura $shot não é de make screenshots"
+    grep -q "\"$shot\"\|/$shot\"" "$source"/src/gui/screenshot*.cpp || fail "captura $shot não é de make screenshots"
 done
 
 # The file type: a ".mor" is a MORVE project, known by name and by content.
