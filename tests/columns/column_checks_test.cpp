@@ -41,34 +41,6 @@ TEST(ColumnChecks, ValidCasesRunToTheEndAndEnableWhatTheyMust) {
     }
 }
 
-TEST(ColumnChecks, OddNumberOfBarsInTheHollowVerificationHasItsOwnTitle) {
-    ColumnCase c = validCases().at("Form25");
-    c.set["Text6"] = "9";
-    auto r = c.press();
-    ASSERT_EQ(r.messages.size(), 1u);
-    EXPECT_EQ(r.messages[0].title, "Flexo-compressão normal");
-    EXPECT_EQ(r.messages[0].text, "O número de barras dever ser par.");
-    c.module = "Form15";
-    c.set = validCases().at("Form15").set;
-    c.set["Text6"] = "9";
-    EXPECT_EQ(c.press().messages.at(0).title, "MORVE");
-}
-
-TEST(ColumnChecks, SmallAreaAndHighRateWarnAndGoOn) {
-    ColumnCase c = validCases().at("Form12");
-    c.set = {{"Text4", "15"}, {"Text5", "20"}, {"Text6", "3"}, {"Text7", "4"}, {"Text8", "700"}, {"Text9", "0"}};
-    c.layers = {2, 2, 2, 2};
-    auto r = c.press();
-    ASSERT_EQ(r.messages.size(), 3u);
-    EXPECT_EQ(r.messages[0].kind, morve::MessageKind::YesNo);  // 15 cm, answered No
-    EXPECT_EQ(r.messages[1].text,
-              "ATENÇÃO: A área da seção do pilar é menor que 360cm2, o que não é permitido pela NBR-6118.");
-    EXPECT_EQ(r.messages[2].text,
-              "A taxa de armadura é superior a 4%. Verifique se a taxa de armadura não será superior a 8%, na "
-              "região das emendas por traspasse.");
-    EXPECT_TRUE(r.outcome.completed);
-}
-
 TEST(LayerTable, OpensWithNRowsKeepsTypedBarsAndTrimsOnOk) {
     const morve::Module* m = morve::ModuleRegistry::find("Form13");
     morve::ModuleSession session(*m, morve::StartDefaults{});
