@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "app/about.h"
 #include "app/catalogue.h"
 #include "app/texts.h"
 #include "cli/case_check.h"
@@ -22,7 +23,8 @@ const char* kUsage =
     "     morve-calc --save SAIDA.mor CASO.json\n"
     "     morve-calc --picture Form40d.Picture1 SAIDA.gif|SAIDA.png|SAIDA.svg CASO.json\n"
     "     morve-calc --check CASO.json...\n"
-    "     morve-calc --list\n";
+    "     morve-calc --list\n"
+    "     morve-calc --version\n";
 
 int listModules() {
     for (const auto& key : morve::ModuleRegistry::keys()) {
@@ -54,6 +56,10 @@ int main(int argc, char** argv) {
         if (a == "--list") return listModules();
         if (a == "--help" || a == "-h") {
             std::cout << kUsage;
+            return 0;
+        }
+        if (a == "--version") {
+            std::cout << morve::versionText("morve-calc");
             return 0;
         }
         if (a == "--check") check = true;
