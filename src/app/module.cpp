@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <map>
 
-#include "reports/report_writer.h"
+#include "app/report_document.h"
 
 namespace morve {
 

@@ -5,7 +5,7 @@
 #include "app/numbers.h"
 #include "basis/checks.h"
 #include "basis/messages.h"
-#include "reports/report_writer.h"
+#include "app/report_document.h"
 
 namespace morve {
 

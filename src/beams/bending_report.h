@@ -5,29 +5,11 @@
 #include <vector>
 
 #include "app/form_state.h"
+#include "basis/section_report.h"
 #include "draw/drawing.h"
-#include "reports/report_writer.h"
 
 namespace morve {
 
-struct SectionReportLine {
-    std::string leftLabel, leftBox, rightLabel, rightBox;  // values in cm
-};
-
-struct BendingReportLayout {
-    std::string fck, fyk, es, gamac, gamas, gamaf;
-    std::vector<SectionReportLine> section;
-    std::string moment;
-    std::string betaList = "List3";
-    std::string criterionList = "List2";
-    std::string as, asPrime;
-};
-
-// "Propriedades dos materiais:" to the line of Gamac, Gamas and Gamaf and a blank:
-// the opening that the section design modules of beams, columns and ties all print.
-void writeMaterialLines(ReportWriter& out, const FormState& state, const BendingReportLayout& layout);
-// "Dimensões da seção transversal:" and the lines of the section, two values a line.
-void writeSectionDimensions(ReportWriter& out, const FormState& state, const BendingReportLayout& layout);
 // From "Propriedades dos materiais:" to the line of the ductility criterion.
 void writeBendingHead(ReportWriter& out, const FormState& state, const BendingReportLayout& layout);
 // Blank, "SOLUÇÃO:", blank and the two areas.
@@ -45,9 +27,6 @@ void writeDetailingReport(ReportWriter& out, const FormState& state, const Bendi
                           const DetailingSetup& setup, Drawing section);
 
 // The report of a layered verification, rectangle or T.
-struct LabelledBox {
-    std::string label, box;
-};
 struct VerificationReportLayout {
     std::string sectionHeading;         // "" when the section is one line
     std::vector<LabelledBox> section;   // values in cm
@@ -57,9 +36,5 @@ struct VerificationReportLayout {
 };
 void writeVerificationReport(ReportWriter& out, const FormState& state,
                              const VerificationReportLayout& layout);
-
-// xlim/d as the report prints it: the balanced limit with three decimals, the
-// others as the arithmetic gives them.
-std::string ductilityLine(const FormState& state, const BendingReportLayout& layout);
 
 }  // namespace morve

@@ -3,6 +3,7 @@
 // of a rectangular beam section under the service moment Mk, with compression
 // steel where the ductility limit calls for it.
 #include "app/module.h"
+#include "basis/section_sketch.h"
 
 namespace morve {
 
@@ -19,9 +20,5 @@ public:
     Outcome calculate(FormState& state, Prompter& prompter) const;
     static Outcome detail(FormState& state);
 };
-
-// The fixed sketch of a rectangular section with its steel, labelled b, h, d, d',
-// As and A's.
-Drawing rectangularSectionSketch();
 
 }  // namespace morve

@@ -2,11 +2,11 @@
 
 #include "app/numbers.h"
 #include "basis/checks.h"
+#include "basis/design_basis.h"
 #include "basis/messages.h"
-#include "beams/bending.h"
-#include "beams/bending_report.h"
+#include "basis/section_report.h"
+#include "basis/section_sketch.h"
 #include "basis/start_values.h"
-#include "beams/form7.h"
 
 namespace morve {
 

@@ -9,6 +9,7 @@
 #include "basis/checks.h"
 #include "basis/messages.h"
 #include "reports/report_writer.h"
+#include "slabs/polygon_screens.h"
 #include "slabs/slab_basis.h"
 
 namespace morve {
@@ -29,30 +30,12 @@ const std::string kPositiveRatio = "Forneça um valor positivo para a relação 
 const std::string kRatioAboveOne = "A relação J/J1 deve ser menor ou igual a 1.";
 const std::string kBandTooWide = "Impossível resolver com essa malha. Escolha uma malha mais grosseira.";
 
-const std::string kVertices = "Form24g.Grade1", kSides = "Form24g.Grade2";
-const std::string kMoments = "Form24f.Grade1", kReactions = "Form24f.Grade2";
-const std::vector<std::string> kFineness = {"Grossa", "Média", "Fina", "Refinar mais!"};
 // The count in force, the picture Form24h shows, and the case last analysed.
 const std::string kDivisionsVar = "Form24f.divisions", kPictureVar = "Form24h.shows", kCaseVar = "Form24f.case";
 // A cell holds at most this many characters, as the table's field.
 constexpr std::size_t kCellWidth = 7;
 // Coordinates beyond this (m) are no slab: they would only overflow the geometry.
 constexpr double kFarthest = 1e5;
-
-GridDecl table(std::vector<std::string> header, KeyFilter filter) {
-    GridDecl g;
-    g.header = std::move(header);
-    g.maxRows = mesh_limits::kVertices;
-    g.filter = filter;
-    return g;
-}
-
-GridDecl results(std::vector<std::string> header) {
-    GridDecl g;
-    g.header = std::move(header);
-    g.filter = KeyFilter::None;
-    return g;
-}
 
 // The vertex count of Text6, as a whole number; a fraction counts as its nearest.
 double vertexCount(const FormState& s) { return std::nearbyint(s.number("Text6")); }
@@ -92,13 +75,13 @@ Outcome enterVertices(FormState& s, Prompter& prompter) {
     const double n = vertexCount(s);
     checkVertexCount(checks, n);
     if (checks.stopped()) return checks.outcome();
-    sizeTable(s, kVertices, static_cast<int>(n));
-    sizeTable(s, kSides, static_cast<int>(n));
+    sizeTable(s, kPolygonVertices, static_cast<int>(n));
+    sizeTable(s, kPolygonSides, static_cast<int>(n));
     return dropMesh(Outcome::done()).then(EffectKind::ShowScreen, "Form24g");
 }
 
 bool validSides(const FormState& s) {
-    const GridRows& g = s.grid(kSides);
+    const GridRows& g = s.grid(kPolygonSides);
     for (std::size_t r = 1; r < g.size(); ++r) {
         const double t = readNumber(g[r].size() > 1 ? g[r][1] : "");
         if (!(t == 0 || t == 1 || t == 2)) return false;
@@ -110,13 +93,13 @@ bool validSides(const FormState& s) {
 // coordinates cannot make a slab.
 std::optional<SlabPolygon> readPolygon(const FormState& s, CheckSequence& checks) {
     SlabPolygon p;
-    const GridRows& g = s.grid(kVertices);
+    const GridRows& g = s.grid(kPolygonVertices);
     bool finite = true;
     for (std::size_t r = 1; r < g.size(); ++r) {
-        const Point v{s.cellNumber(kVertices, static_cast<int>(r), 1), s.cellNumber(kVertices, static_cast<int>(r), 2)};
+        const Point v{s.cellNumber(kPolygonVertices, static_cast<int>(r), 1), s.cellNumber(kPolygonVertices, static_cast<int>(r), 2)};
         finite = finite && std::abs(v.x) < kFarthest && std::abs(v.y) < kFarthest;
         p.vertices.push_back(v);
-        const double t = s.cellNumber(kSides, static_cast<int>(r), 1);
+        const double t = s.cellNumber(kPolygonSides, static_cast<int>(r), 1);
         p.sides.push_back(t == 1 ? SideSupport::Fixed : t == 2 ? SideSupport::Free : SideSupport::Simple);
     }
     checks.warnIf(!validSides(s), kBadSide, "Form24f.Command4").warnIf(!finite, kBadPolygon, "Form24f.Command4");
@@ -128,8 +111,8 @@ Outcome closeVertices(FormState& s, Prompter& prompter, bool picture) {
     CheckSequence checks(prompter);
     checks.warnIf(!validSides(s), kBadSide);
     if (checks.stopped()) return checks.outcome();
-    cutCells(s, kVertices);
-    cutCells(s, kSides);
+    cutCells(s, kPolygonVertices);
+    cutCells(s, kPolygonSides);
     if (picture) {
         s.setVar(kPictureVar, "outline");
         return Outcome::done().then(EffectKind::ShowScreen, "Form24h");
@@ -145,7 +128,7 @@ int requestedDivisions(const FormState& s, CheckSequence& checks) {
     checks.warnIf(chosen.empty(), kChooseMesh, "List1");
     if (checks.stopped()) return 0;
     for (int i = 0; i < 3; ++i)
-        if (chosen == kFineness[i]) return 4 + i;
+        if (chosen == kPolygonFineness[i]) return 4 + i;
     const int inForce = static_cast<int>(readNumber(s.var(kDivisionsVar)));
     checks.warnIf(inForce < 3, kRefineFirst, "List1");
     return checks.stopped() ? 0 : inForce + 1;
@@ -172,7 +155,7 @@ std::optional<MeshResult> meshOf(const FormState& s, CheckSequence& checks, int 
     const double n = vertexCount(s);
     checkVertexCount(checks, n);
     if (checks.stopped()) return std::nullopt;
-    checks.warnIf(static_cast<double>(s.grid(kVertices).size()) != n + 1, kUpdateVertices);
+    checks.warnIf(static_cast<double>(s.grid(kPolygonVertices).size()) != n + 1, kUpdateVertices);
     if (checks.stopped()) return std::nullopt;
     std::optional<SlabPolygon> p = readPolygon(s, checks);
     if (!p) return std::nullopt;
@@ -189,7 +172,7 @@ Outcome generate(FormState& s, Prompter& prompter) {
     const Outcome start = Outcome::done().then(EffectKind::DisableControl, "Form24f.Command10");
     const int divisions = requestedDivisions(s, checks);
     if (checks.stopped()) return checks.outcome();
-    const bool stale = static_cast<double>(s.grid(kVertices).size()) != vertexCount(s) + 1;
+    const bool stale = static_cast<double>(s.grid(kPolygonVertices).size()) != vertexCount(s) + 1;
     SlabPolygon polygon;
     MeshStatus status = MeshStatus::Ok;
     const std::optional<MeshResult> mesh = meshOf(s, checks, divisions, polygon, &status);
@@ -218,7 +201,7 @@ Outcome generate(FormState& s, Prompter& prompter) {
 
 void fillResults(FormState& s, const PolygonCase& c, const GrillageResults& r) {
     auto text = [](const std::optional<double>& v) { return v ? formatResult(*v) : std::string(" "); };
-    GridRows& m = s.grid(kMoments);
+    GridRows& m = s.grid(kPolygonMoments);
     m.resize(1);
     m.push_back({"Mx", formatResult(r.mxMax), formatResult(r.mxMin), text(r.mxCentre)});
     m.push_back({"My", formatResult(r.myMax), formatResult(r.myMin), text(r.myCentre)});
@@ -226,7 +209,7 @@ void fillResults(FormState& s, const PolygonCase& c, const GrillageResults& r) {
     const double wqp = r.wmax * 1000 * (c.g + 0.3 * c.q) / (c.g + c.q);
     writeResult(s, "Text9", wqp);
     writeResult(s, "Text10", wqp * (1 + readNumber(s.text("Text3"))));
-    GridRows& g = s.grid(kReactions);
+    GridRows& g = s.grid(kPolygonReactions);
     g.resize(1);
     for (std::size_t i = 0; i < r.sideReaction.size(); ++i)
         g.push_back({std::to_string(i + 1), formatResult(r.sideReaction[i])});
@@ -234,7 +217,7 @@ void fillResults(FormState& s, const PolygonCase& c, const GrillageResults& r) {
 
 Outcome calculate(FormState& s, Prompter& prompter) {
     CheckSequence checks(prompter);
-    checks.warnIf(static_cast<double>(s.grid(kVertices).size()) != vertexCount(s) + 1, kUpdateVertices);
+    checks.warnIf(static_cast<double>(s.grid(kPolygonVertices).size()) != vertexCount(s) + 1, kUpdateVertices);
     if (checks.stopped()) return checks.outcome();
     checkConcreteService(checks, s);
     checkSlabLoads(checks, s);
@@ -273,11 +256,6 @@ Outcome calculate(FormState& s, Prompter& prompter) {
         .then(EffectKind::EnableControl, printButton("Form24f"));
 }
 
-const char* sideName(const std::string& cell) {
-    const double t = readNumber(cell);
-    return t == 1 ? "engaste" : t == 2 ? "bordo livre" : "apoio simples";
-}
-
 class Form24f : public Module {
 public:
     ModuleInfo info() const override {
@@ -291,57 +269,13 @@ public:
         return i;
     }
 
-    std::vector<ScreenDecl> screens() const override {
-        ScreenBuilder s("Form24f", "LAJES POLIGONAIS COM CARGA UNIFORME");
-        addConcreteFrame(s, "Frame1", 0, 0);
-        addLoadFrame(s, "Frame3", 1, 0);
-        s.frame("Frame2", "Laje", 0, 1)
-            .box("Text7", "h (cm)=")
-            .box("Text8", "Rigidez à torção relativa K/K1 =")
-            .box("Text6", "Número de vértices da poligonal =", "", "", KeyFilter::Digit)
-            .command("Command4", "Entrar com as coordenadas");
-        s.frame("Frame6", "Malha", 1, 1)
-            .list("List1", "Malha da grelha :", kFineness)
-            .command("Command7", "Gerar malha ", "Gerar a malha da grelha")
-            .command("Command13", "Calculando...Aguarde.")
-            .hidden();
-        s.frame("Frame7", "", 2, 0, 1, 2)
-            .command("Command1", "&CALCULAR")
-            .disabled()
-            .command("Command10", "Diagramas", "Ver diagramas de momentos fletores")
-            .disabled();
-        s.frame("Frame4", "Momentos fletores e flecha", 3, 0)
-            .grid("Grade1", results({" ", "máximo", "mínimo", "no centro"}))
-            .label("Label1", "Momentos em kNm/m")
-            .result("Text9", "Flecha imediata (carga quase permanente) =", "mm")
-            .result("Text10", "Flecha final Wtot =", "mm");
-        s.frame("Frame5", "Reações de apoio", 3, 1)
-            .grid("Grade2", results({"Lado", "R (kN/m)"}));
-
-        ScreenBuilder v("Form24g", "Coordenadas dos vértices da laje (metros)", false);
-        v.frame("Frame1", "Vértices", 0, 0).grid("Grade1", table({"Vértice", "X", "Y"}, KeyFilter::SignedNumber));
-        v.frame("Frame2", "Condições de contorno", 0, 1)
-            .grid("Grade2", table({"Lado", "Tipo"}, KeyFilter::Digit))
-            .label("Label1", "0 = Apoio simples")
-            .label("Label2", "1 = Engaste ")
-            .label("Label3", "2 = Bordo livre");
-        v.frame("Frame3", "", 1, 0, 1, 2)
-            .label("Label4", msg::kGridsArrows)
-            .command("Command2", "&OK", "Volta para o cálculo")
-            .command("Command5", "Ver poligonal", "Ver o desenho da laje");
-
-        ScreenBuilder h("Form24h", "Laje poligonal", false);
-        h.frame("Frame1", "", 0, 0).picture("Picture1", 590, 512).command("Command1", "&Voltar");
-        ScreenBuilder j("Form24j", "Diagramas de momentos fletores", false);
-        j.frame("Frame1", "", 0, 0).picture("Picture1", 700, 512).command("Command1", "&Voltar");
-        return {s.build(), v.build(), h.build(), j.build()};
-    }
+    std::vector<ScreenDecl> screens() const override { return polygonScreens(); }
 
     // The boxes, the fineness and the two tables of the outline; the result tables
     // are made again by "CALCULAR".
     std::vector<std::string> projectFields() const override {
         return {"Form24f.Text1", "Form24f.Text2", "Form24f.Text3", "Form24f.Text4", "Form24f.Text5", "Form24f.Text7",
-                "Form24f.Text8", "Form24f.Text6", "Form24f.List1", kVertices, kSides};
+                "Form24f.Text8", "Form24f.Text6", "Form24f.List1", kPolygonVertices, kPolygonSides};
     }
 
     void load(FormState& state, const StartDefaults& defaults) const override {
@@ -388,38 +322,7 @@ public:
     }
 
     void report(const std::string& key, const FormState& s, ReportWriter& out) const override {
-        if (key != "Form24f") return;
-        reportConcrete(out, s);
-        reportLoads(out, s);
-        reportThickness(out, s, "Text7");
-        out.write("Rigidez à torção relativa J/J1= ", s.text("Text8"));
-        out.blank();
-        out.write("Coordenadas dos vértices da laje (em metros):");
-        const GridRows& v = s.grid(kVertices);
-        for (std::size_t r = 1; r < v.size(); ++r)
-            out.write("Vértice ", std::to_string(r), tab(15), "X= ", s.cell(kVertices, static_cast<int>(r), 1), tab(35),
-                      "Y= ", s.cell(kVertices, static_cast<int>(r), 2));
-        out.blank();
-        out.write("Condições de contorno:");
-        for (std::size_t r = 1; r < s.grid(kSides).size(); ++r)
-            out.write("Lado ", std::to_string(r), tab(15), sideName(s.cell(kSides, static_cast<int>(r), 1)));
-        out.blank();
-        const GridRows& m = s.grid(kMoments);
-        if (m.size() < 3) return;
-        out.write("RESULTADOS:");
-        out.blank();
-        const char* heads[] = {"Momentos fletores Mx (na direção x) em kNm/m:", "Momentos fletores My (na direção y) em kNm/m:"};
-        for (int i = 1; i <= 2; ++i) {
-            out.write(heads[i - 1]);
-            out.write("Máximo= ", s.cell(kMoments, i, 1), tab(25), "Mínimo= ", s.cell(kMoments, i, 2), tab(50),
-                      "No centro= ", s.cell(kMoments, i, 3));
-            out.blank();
-        }
-        out.write("Flecha final máxima: Wtot= ", s.text("Text10"), " mm");
-        out.blank();
-        out.write("Reações de apoio (em kN/m):");
-        for (std::size_t r = 1; r < s.grid(kReactions).size(); ++r)
-            out.write("Lado ", std::to_string(r), tab(15), "R= ", s.cell(kReactions, static_cast<int>(r), 1));
+        if (key == "Form24f") writePolygonReport(s, out);
     }
 };
 

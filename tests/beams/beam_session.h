@@ -59,13 +59,4 @@ struct BeamRun {
     ScriptedPrompter prompter;
 };
 
-// A check of a table: the boxes that break it, the answers to the questions met on
-// the way, the message expected and where the focus goes ("" when it stays).
-struct CheckCase {
-    std::map<std::string, std::string> set;
-    std::vector<std::string> answers;
-    std::string message;
-    std::string focus;
-};
-
 }  // namespace morve::testing

@@ -5,14 +5,12 @@
 #include <cmath>
 
 #include "app/numbers.h"
-#include "basis/messages.h"
 #include "beam_session.h"
 #include "beams/bending.h"
 #include "beams/layered_bending.h"
 
 using namespace morve;
 using morve::testing::BeamRun;
-using morve::testing::CheckCase;
 
 namespace {
 
@@ -124,72 +122,4 @@ TEST(LayerGrid, OpensWithNPlusOneRowsAndKeepsThemWhenNStays) {
     EXPECT_EQ(v.session.state().grid("Form9b.Grade1").size(), 3u);
     EXPECT_EQ(v.session.state().cell("Form9b.Grade1", 1, 1), "");
 
-    for (auto [n, message] : {std::pair{"0", "Entre com um valor positivo para n"},
-                              std::pair{"301", "Este programa está limitado a 300 camadas de armadura."}}) {
-        BeamRun w("Form11");
-        w.set({{"Text8", n}});
-        Outcome stop = w.press("Command4");
-        EXPECT_FALSE(stop.completed);
-        EXPECT_EQ(w.lastMessage(), message);
-        EXPECT_EQ(stop.focus, "Form11.Text8");
-    }
-}
-
-TEST(Form9Verification, ChecksStopInOrderWithTheirFocus) {
-    const std::string kArea = "Você está fornecendo valor negativo ou nulo para área de aço. Revise os dados.";
-    const std::string kDepth = "Você está fornecendo valor negativo ou nulo para altura útil. Revise os dados.";
-    const std::vector<CheckCase> cases = {
-        {{{"Text1", "19"}}, {}, msg::kLowFck, ""},
-        {{{"Text2", "450"}}, {"yes"}, msg::kSteelClass, "Form9.Text2"},
-        {{{"Text4", "0"}}, {}, "Forneça um valor positivo para b.", "Form9.Text4"},
-        {{{"Text4", "10"}}, {"yes"}, msg::kBeamWidth, "Form9.Text4"},
-        {{{"Text6", "0"}}, {}, "Forneça um valor positivo para n.", "Form9.Text6"},
-        {{{"Text6", "301"}}, {}, "Este programa está limitado a 300 camadas de armadura.", "Form9.Text6"},
-        {{{"Text6", "3"}}, {}, "Atualize os dados das camadas.", "Form9.Command3"},
-        {{{"Text13", "0.9"}}, {}, msg::kPartialCoefficient, "Form9.Text13"},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.message);
-        BeamRun v = form9({{"6", "36"}, {"2", "31"}}, c.set, c.answers);
-        Outcome o = v.press("Command4");
-        EXPECT_FALSE(o.completed);
-        EXPECT_EQ(v.lastMessage(), c.message);
-        EXPECT_EQ(o.focus, c.focus);
-        EXPECT_EQ(v.text("Text7"), " ");
-    }
-    // Bad cells bring the grid back up; areas are walked before depths.
-    for (auto [layers, message] :
-         {std::pair{std::vector<std::pair<std::string, std::string>>{{"6", "-1"}, {"0", "31"}}, kArea},
-          std::pair{std::vector<std::pair<std::string, std::string>>{{"6", "36"}, {"2", ""}}, kDepth}}) {
-        BeamRun v = form9(layers);
-        Outcome o = v.press("Command4");
-        EXPECT_FALSE(o.completed);
-        EXPECT_EQ(v.lastMessage(), message);
-        EXPECT_TRUE(v.session.screenShown("Form9b"));
-    }
-    // 300 layers is allowed.
-    std::vector<std::pair<std::string, std::string>> many(300, {"0.02", "36"});
-    BeamRun v = form9(many);
-    EXPECT_TRUE(v.press("Command4").completed);
-}
-
-TEST(Form11Verification, ChecksOfTheTSectionStopWithTheirFocus) {
-    const std::vector<CheckCase> cases = {
-        {{{"Text4", "0"}}, {}, "Forneça um valor positivo para bf.", "Form11.Text4"},
-        {{{"Text5", "0"}}, {}, "Forneça um valor positivo para hf.", "Form11.Text5"},
-        {{{"Text6", "0"}}, {}, "Forneça um valor positivo para bw.", "Form11.Text6"},
-        {{{"Text6", "60"}}, {}, kFlangeWiderThanWeb, ""},
-        {{{"Text6", "11"}}, {"yes"}, msg::kBeamWidth, "Form11.Text6"},
-        {{{"Text8", "0"}}, {}, "Forneça um valor positivo para n.", "Form11.Text8"},
-        {{{"Text5", "36"}}, {}, "A altura útil d1 tem que ser maior que a espessura da mesa hf.", ""},
-        {{{"Text14", "0.5"}}, {}, msg::kPartialCoefficient, "Form11.Text14"},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.message);
-        BeamRun v = form11({{"6", "36"}}, c.set, c.answers);
-        Outcome o = v.press("Command3");
-        EXPECT_FALSE(o.completed);
-        EXPECT_EQ(v.lastMessage(), c.message);
-        EXPECT_EQ(o.focus, c.focus);
-    }
 }

@@ -16,16 +16,6 @@ std::string example(const std::string& name) { return std::string(MORVE_EXAMPLES
 
 }  // namespace
 
-TEST(MorveCalc, Form7ExampleGivesTheHandCalculatedAreas) {
-    Result r = runCalc(example("form7-armadura-simples.json"));
-    ASSERT_EQ(r.status, 0) << r.out;
-    json j = json::parse(r.out);
-    EXPECT_EQ(j["fields"]["Form7.Text7"], "5.13");
-    EXPECT_EQ(j["fields"]["Form7.Text8"], "0");
-    EXPECT_EQ(j["steps"][0]["completed"], true);
-    EXPECT_TRUE(j["steps"][0]["focus"].is_null());
-}
-
 TEST(MorveCalc, EveryExampleRunsWithNoRefusedPress) {
     int count = 0;
     for (const auto& entry : fs::directory_iterator(MORVE_EXAMPLES)) {
@@ -57,17 +47,6 @@ TEST(MorveCalc, QuestionsTakeTheGivenAnswersThenNo) {
     EXPECT_EQ(messages[1]["answer"], "no");  // the answers ran out
     EXPECT_EQ(j["fields"]["Form7.Text1"], "25");
     EXPECT_EQ(j["steps"][0]["completed"], true);
-}
-
-TEST(MorveCalc, AStopReportsItsMessageAndFocus) {
-    std::string path = writeCase("stop", R"({"module": "Form7", "set": {"Text6": "50"}})");
-    Result r = runCalc(path);
-    ASSERT_EQ(r.status, 0) << r.out;
-    json j = json::parse(r.out);
-    EXPECT_EQ(j["steps"][0]["completed"], false);
-    EXPECT_EQ(j["steps"][0]["focus"], "Form7.List6");
-    EXPECT_EQ(j["steps"][0]["messages"][0]["text"], "Escolha a classe de agressividade ambiental.");
-    EXPECT_EQ(j["fields"]["Form7.Text6"], "50");  // nothing typed is changed
 }
 
 TEST(MorveCalc, ButtonsTheScreenDoesNotOfferAreRefusedAndChangeNothing) {

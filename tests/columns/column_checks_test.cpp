@@ -1,5 +1,6 @@
-// Every check of the column modules stops with its words and its focus, in order;
-// the layer table; the reports of every key; the interaction diagram.
+// The valid cases of the column modules and what they enable; the layer table; the
+// reports of every key; the interaction diagram. The checks in order are cases in
+// tests/cases/columns.
 #include <algorithm>
 
 #include "column_case.h"
@@ -24,105 +25,7 @@ const std::map<std::string, ColumnCase>& validCases() {
     return cases;
 }
 
-struct Stop {
-    std::string module;
-    std::map<std::string, std::string> set;
-    std::string message;
-    std::string focus;  // unqualified on the main screen, "" when the focus stays
-    std::vector<std::string> answers = {};
-    std::vector<int> layers = {};
-    std::string command = "";
-};
-
-const std::string kCoefficient = "O coeficiente parcial de segurança não pode ser menor que 1.";
-const std::string kSlender =
-    "Como a menor dimensão da seção (bmin) é inferior a 19cm, a NBR-6118 exige que o coeficiente Gamaf seja "
-    "multiplicado por 1,95-bmin/20.      VOCÊ QUER CORRIGIR ";
-
-const std::vector<Stop>& stops() {
-    static const std::vector<Stop> rows{
-        // Form12, in the order of its checks.
-        {"Form12", {{"Text1", "19.9"}}, "A menor resistência admitida na NBR-6118 é igual a 20 MPa. Aumente o valor de fck.", ""},
-        {"Form12", {{"Text1", "90.1"}}, "A maior resistência admitida na NBR-6118 é igual a 90 MPa. Os modelos de cálculo não se aplicam ao concreto considerado.", "Text1"},
-        {"Form12", {{"Text2", "0"}}, "Forneça um valor positivo para fyk.", "Text2"},
-        {"Form12", {{"Text3", "0"}}, "Forneça um valor positivo para o módulo de elasticidade do aço.", "Text3"},
-        {"Form12", {{"Text2", "450"}}, "O valor de fyk não corresponde aos aços CA-50 ou CA-60. VOCÊ QUER ALTERAR O VALOR DE fyk?", "Text2", {"yes"}},
-        {"Form12", {{"Text3", "205"}}, "O valor de Es não é indicado pela NBR-6118 ou pelo CEB. VOCÊ QUER ALTERAR O VALOR DE Es?", "Text3", {"yes"}},
-        {"Form12", {{"Text4", ""}}, "Forneça um valor positivo para b.", "Text4"},
-        {"Form12", {{"Text5", "0"}}, "Forneça um valor positivo para h.", "Text5"},
-        {"Form12", {{"Text6", ""}}, "Forneça um valor positivo para d'.", "Text6"},
-        {"Form12", {{"Text6", "40"}}, "O parâmetro d' deve ser menor que a altura h.", "Text6"},
-        {"Form12", {{"Text7", "1"}}, "O número mínimo de camadas é igual a 2.", "Text7"},
-        {"Form12", {{"Text7", "301"}}, "Este programa está limitado a 300 camadas de armadura.", "Text7"},
-        {"Form12", {{"Text7", "3"}}, "Atualize os dados das camadas.", "Command3"},
-        {"Form12", {}, "O número mínimo de barras em cada camada é igual a 2. Revise os dados.", "Command3", {}, {3, 1}},
-        {"Form12", {{"Text8", "-1"}}, "O esforço normal Nk não pode ser negativo.", "Text8"},
-        {"Form12", {{"Text9", "-1"}}, "O momento fletor Mk não pode ser negativo.", "Text9"},
-        {"Form12", {{"Text16", "0.9"}}, kCoefficient, "Text16"},
-        {"Form12", {{"Text4", "13"}}, "A NBR-6118 não admite pilares com dimensão menor que 14cm. VOCÊ QUER CORRIGIR A DIMENSÃO?", "Text4", {"yes"}},
-        {"Form12", {{"Text4", "18"}}, kSlender + "Gamaf?", "Text15", {"yes"}},
-        {"Form12", {{"Text4", "14"}, {"Text5", "14"}, {"Text8", "1500"}}, "A taxa de armadura é superior a 8%. Aumente as dimensões da seção de concreto.", "", {"no", "no"}},
-        // The box: its own limits in place of d' against h.
-        {"Form12d", {{"Text12", "0"}}, "Forneça um valor positivo para bw.", "Text12"},
-        {"Form12d", {{"Text12", "31"}}, "A largura da nervura, bw, não pode ser maior que b/2.", "Text12"},
-        {"Form12d", {{"Text6", ""}}, "Forneça um valor positivo para hf.", "Text6"},
-        {"Form12d", {{"Text6", "31"}}, "A espessura da mesa,hf, não pode ser maior que h/2.", "Text6"},
-        {"Form12d", {{"Text13", "0"}}, "Forneça um valor positivo para d'.", "Text13"},
-        {"Form12d", {{"Text13", "10.5"}, {"Text6", "20"}}, "O parâmetro d' não deve ser maior que hf/2.", "Text13"},
-        {"Form12d", {{"Text13", "8"}, {"Text12", "15"}}, "O parâmetro d' não deve ser maior que bw/2.", "Text13"},
-        // Verification of the rectangle.
-        {"Form13", {{"Text8", "-5"}}, "O esforço normal Nd não pode ser negativo.", "Text8"},
-        {"Form13", {{"Form13b.Text1", "-1"}}, "Forneça um valor positivo (ou nulo) para a área de aço.", "Command3"},
-        {"Form13", {{"Text13", "0.5"}}, kCoefficient, "Text13"},
-        {"Form13", {{"Text4", "18"}}, kSlender + "O ESFORÇO NORMAL DE CÁLCULO?", "Text8", {"yes"}},
-        {"Form13e", {{"Text8", "0.5"}}, kCoefficient, "Text8"},
-        {"Form13e", {{"Text10", "-1"}}, "O esforço normal Nd não pode ser negativo.", "Text10"},
-        // The diagram's shorter list, which refuses a section without steel.
-        {"Form13", {{"Text1", "0"}}, "Forneça um valor positivo para fck.", "Text1", {}, {}, "Command6"},
-        {"Form13", {{"Text7", "0"}}, "Forneça um valor positivo para n.", "Text7", {}, {}, "Command6"},
-        {"Form13", {{"Form13b.Text1", "0"}}, "Forneça um valor positivo para a área de aço.", "Command3", {}, {}, "Command6"},
-        {"Form15", {{"Text9", "0"}}, "Forneça um valor positivo (ou nulo) para a área de aço.", "Text9", {}, {}, "Command6"},
-        {"Form15", {{"Text7", "90000"}}, "A seção não suporta o esforço normal dado.", "", {}, {}, "Command6"},
-        // Circles: d' against the diameter only after the number of bars.
-        {"Form14", {{"Text4", ""}}, "Forneça um valor positivo para o diâmetro h.", "Text4"},
-        {"Form14", {{"Text5", "0"}, {"Text6", "5"}}, "Forneça um valor positivo para d'.", "Text5"},
-        {"Form14", {{"Text5", "70"}, {"Text6", "4"}}, "O número mínimo de barras é igual a 6.", "Text6"},
-        {"Form14", {{"Text5", "70"}, {"Text6", "7"}}, "O número de barras dever ser par.", "Text6"},
-        {"Form14", {{"Text5", "70"}, {"Text6", "302"}}, "Este programa está limitado a 300 barras de armadura.", "Text6"},
-        {"Form14", {{"Text5", "70"}}, "O parâmetro d' deve ser menor que o diâmetro h.", "Text5"},
-        {"Form14", {{"Text7", "-1"}}, "O esforço normal Nk não pode ser negativo.", "Text7"},
-        {"Form14", {{"Text4", "13"}}, "A NBR-6118 não admite pilares com dimensão menor que 14cm. VOCÊ QUER CORRIGIR A DIMENSÃO?", "Text4", {"yes"}},
-        {"Form14c", {{"Text4", "0"}}, "Forneça um valor positivo para o diâmetro externo h.", "Text4"},
-        {"Form14c", {{"Text11", "-1"}}, "O diâmetro interno ho não pode ser negativo.", "Text11"},
-        {"Form14c", {{"Text11", "60"}, {"Text6", "5"}}, "O diâmetro interno ho deve ser menor que o diâmetro externo h.", "Text11"},
-        {"Form14c", {{"Text5", "10.5"}, {"Text6", "5"}}, "O parâmetro d' não pode ser maior que a semi-espessura da parede: (h-ho)/4.", "Text5"},
-        {"Form15", {{"Text7", "-1"}}, "O esforço normal Nd não pode ser negativo.", "Text7"},
-        {"Form15", {{"Text10", "0.99"}}, kCoefficient, "Text10"},
-        {"Form25", {{"Text7", "-1"}}, "Forneça um valor positivo (ou nulo) para a área de aço.", "Text7"},
-        {"Form25", {{"Text8", "90000"}}, "A seção não suporta o esforço normal dado.", ""},
-    };
-    return rows;
-}
-
 }  // namespace
-
-TEST(ColumnChecks, EachCheckStopsWithItsWordsAndFocus) {
-    for (const Stop& row : stops()) {
-        ColumnCase c = validCases().at(row.module);
-        const morve::ModuleSession fresh(*morve::ModuleRegistry::find(row.module), morve::StartDefaults{});
-        const bool opensDisabled = !row.command.empty() && !fresh.refusal(row.command).empty();
-        for (const auto& [box, text] : row.set) (opensDisabled ? c.retype : c.set)[box] = text;
-        if (!row.layers.empty()) c.layers = row.layers;
-        c.answers = row.answers;
-        auto r = c.press(row.command);
-        SCOPED_TRACE(row.module + " " + row.message);
-        EXPECT_FALSE(r.outcome.completed);
-        ASSERT_FALSE(r.messages.empty());
-        EXPECT_EQ(r.messages.back().text, row.message);
-        EXPECT_EQ(r.messages.back().title, "MORVE");
-        EXPECT_EQ(r.outcome.focus, row.focus.empty() ? "" : r.session->state().qualify(row.focus));
-    }
-}
 
 TEST(ColumnChecks, ValidCasesRunToTheEndAndEnableWhatTheyMust) {
     for (const auto& [key, c] : validCases()) {
@@ -136,34 +39,6 @@ TEST(ColumnChecks, ValidCasesRunToTheEndAndEnableWhatTheyMust) {
             EXPECT_TRUE(r.session->state().enabled(key + ".Command6")) << key;
         }
     }
-}
-
-TEST(ColumnChecks, OddNumberOfBarsInTheHollowVerificationHasItsOwnTitle) {
-    ColumnCase c = validCases().at("Form25");
-    c.set["Text6"] = "9";
-    auto r = c.press();
-    ASSERT_EQ(r.messages.size(), 1u);
-    EXPECT_EQ(r.messages[0].title, "Flexo-compressão normal");
-    EXPECT_EQ(r.messages[0].text, "O número de barras dever ser par.");
-    c.module = "Form15";
-    c.set = validCases().at("Form15").set;
-    c.set["Text6"] = "9";
-    EXPECT_EQ(c.press().messages.at(0).title, "MORVE");
-}
-
-TEST(ColumnChecks, SmallAreaAndHighRateWarnAndGoOn) {
-    ColumnCase c = validCases().at("Form12");
-    c.set = {{"Text4", "15"}, {"Text5", "20"}, {"Text6", "3"}, {"Text7", "4"}, {"Text8", "700"}, {"Text9", "0"}};
-    c.layers = {2, 2, 2, 2};
-    auto r = c.press();
-    ASSERT_EQ(r.messages.size(), 3u);
-    EXPECT_EQ(r.messages[0].kind, morve::MessageKind::YesNo);  // 15 cm, answered No
-    EXPECT_EQ(r.messages[1].text,
-              "ATENÇÃO: A área da seção do pilar é menor que 360cm2, o que não é permitido pela NBR-6118.");
-    EXPECT_EQ(r.messages[2].text,
-              "A taxa de armadura é superior a 4%. Verifique se a taxa de armadura não será superior a 8%, na "
-              "região das emendas por traspasse.");
-    EXPECT_TRUE(r.outcome.completed);
 }
 
 TEST(LayerTable, OpensWithNRowsKeepsTypedBarsAndTrimsOnOk) {

@@ -8,7 +8,6 @@
 
 #include "../beams/beam_session.h"
 #include "app/numbers.h"
-#include "../stop_expectations.h"
 #include "plate_solutions.h"
 #include "slabs/flat_slab.h"
 
@@ -126,51 +125,9 @@ BeamRun typedSlab(std::vector<std::array<const char*, 4>> columns, std::vector<s
     return run;
 }
 
-TEST(Form40, ButtonsCheckInOrder) {
-    using Edit = std::function<void(FormState&)>;
-    auto box = [](const char* name, const char* text) { return [=](FormState& s) { s.setText(name, text); }; };
-    auto cell = [](const char* grid, int r, int c, const char* text) {
-        return [=](FormState& s) { s.grid(grid)[r][c] = text; };
-    };
-    const std::string ask = "O módulo secante do concreto está fora dos limites razoáveis. VOCÊ QUER CORRIGIR O MÓDULO?";
-    const struct {
-        const char* what;
-        Edit edit;
-        std::vector<std::string> answers;
-        std::string command, text, focus;
-        MessageKind kind = MessageKind::Warning;
-    } cases[] = {
-        {"no columns", box("Text7", "0"), {}, "Command1", "Não há pilares no pavimento. A laje será calculada como uma laje retangular simplesmente apoiada nos quatro lados. Clique no botão CALCULAR ou forneça o número de pilares.", "Form40.Text7"},
-        {"41 columns", box("Text7", "41"), {}, "Command1", "Este programa é limitado ao máximo de 40 pilares.", "Form40.Text7"},
-        {"no lx", box("Text5", "abc"), {}, "Command1", "Forneça um valor positivo para o vão lx.", "Form40.Text5"},
-        {"no ly", box("Text6", "-0"), {}, "Command1", "Forneça um valor positivo para o vão ly.", "Form40.Text6"},
-        {"on the edge", cell("Form40b.Grade1", 1, 1, "0"), {}, "Form40b.Command1", "Há um ou mais pilares fora da laje. Todos os pilares devem ser internos. Revise as coordenadas dos pilares.", ""},
-        {"Ecs", box("Text2", "50000"), {"yes"}, "Command3", ask, "Form40.Text2", MessageKind::YesNo},
-        {"no h", box("Text4", ""), {}, "Command3", "Forneça um valor positivo para a espessura da laje.", "Form40.Text4"},
-        {"thin", box("Text4", "15"), {"ok"}, "Command3", "Segundo a NBR-6118, a espessura mínima das lajes lisas é 16 cm.   Clique em OK para corrigir a espessura. Clique em CANCELAR para continuar.", "Form40.Text4", MessageKind::OkCancel},
-        {"no g", box("Text8", "0"), {}, "Command3", "Forneça um valor positivo para a carga permanente.", "Form40.Text8"},
-        {"no q", box("Text9", "0"), {}, "Command3", "Forneça um valor positivo para a carga acidental.", "Form40.Text9"},
-        {"count", box("Text7", "3"), {}, "Command3", "Você alterou o número de pilares. Clique no botão 'Dados dos pilares' para atualização dos dados.", "Form40.Command1"},
-        {"outside", cell("Form40b.Grade1", 2, 2, "6.5"), {}, "Command3", "Há um ou mais pilares fora da laje. Revise as coordenadas dos pilares.", ""},
-        {"same place", cell("Form40b.Grade1", 2, 1, "2.005"), {}, "Command3", "Há um ou mais pilares na mesma posição. Revise as coordenadas dos pilares.", ""},
-        {"null side", cell("Form40b.Grade2", 1, 2, ""), {}, "Command3", "Há um ou mais pilares com dimensão nula. Revise as dimensões dos pilares.", ""},
-        // On the edge beam passes the check of the coordinates but the slab cannot
-        // sink there: nothing is left for the column to carry.
-        {"on the support", cell("Form40b.Grade1", 1, 1, "0"), {}, "Command3", "Matriz singular. Revise os dados.", ""},
-        {"small side", cell("Form40b.Grade2", 2, 1, "15"), {"ok"}, "Command3", "Segundo a NBR-6118, a menor dimensão dos pilares é 19 cm.   Clique em OK para corrigir as dimensões dos pilares. Clique em CANCELAR para continuar.", "Form40.Command1", MessageKind::OkCancel},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.what);
-        BeamRun run = typedSlab({{"2", "3", "30", "30"}, {"2.5", "3", "30", "30"}}, c.answers);
-        c.edit(run.session.state());
-        expectStop(run.prompter, run.press(c.command), c.text, c.kind, c.focus);
-    }
-    // Cancel goes on past a thin slab; a slab without columns runs.
-    BeamRun thin = typedSlab({}, {"cancel"});
-    thin.set({{"Text4", "15"}});
-    EXPECT_TRUE(thin.press("Command3").completed);
-    EXPECT_EQ(thin.prompter.messages().size(), 1u);
-    // The diagrams wait for a calculation: their button is not offered before it.
+TEST(Form40, TheDiagramsWaitForACalculation) {
+    // Their button is not offered before it. The checks of the buttons in order are
+    // tests/cases/slabs/form40-checks.json.
     BeamRun early = typedSlab({});
     EXPECT_EQ(early.press("Command2").refused, "disabled");
 }
