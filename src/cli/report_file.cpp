@@ -12,6 +12,7 @@
 #include "render/drawing_export.h"
 #include "render/offscreen.h"
 #include "render/page_painter.h"
+#include "render/trace_pdf.h"
 #endif
 
 namespace morve {
@@ -50,6 +51,25 @@ std::string writeReportFile(const ModuleSession& session, const std::string& pat
 #endif
     }
     return "a extensão do relatório deve ser .txt ou .pdf: " + path;
+}
+
+std::string writeStepsFile(const ModuleSession& session, const std::string& path) {
+    const std::string html = traceHtml(session.steps());
+    if (endsWith(path, ".html") || endsWith(path, ".htm")) {
+        std::ofstream out(path, std::ios::binary);
+        if (!out) return "não foi possível gravar " + path;
+        out << html;
+        return out ? "" : "não foi possível gravar " + path;
+    }
+    if (endsWith(path, ".pdf")) {
+#ifdef MORVE_HAS_RENDER
+        ensurePaintingApplication();
+        return writeHtmlPdf(html, QString::fromStdString(path));
+#else
+        return "esta versão do morve-calc foi construída sem Qt e não grava PDF";
+#endif
+    }
+    return "a extensão do passo a passo deve ser .html ou .pdf: " + path;
 }
 
 std::string writePictureFile(const ModuleSession& session, const std::string& picture, const std::string& path) {
