@@ -106,6 +106,35 @@ TEST(Trace, BendingSweepIsTrueAndAgreesWithTheBoxes) {
             }
 }
 
+TEST(Trace, ColumnDesignSweepIsTrue) {
+    const json rows = json::array({json::array({"1", "3"}), json::array({"2", "3"})});
+    for (const char* fck : {"20", "40", "70"})
+        for (const char* nk : {"0", "300", "1000", "2500"})
+            for (const char* mk : {"0", "40", "120"})
+                expectTrace(run({{"module", "Form12"},
+                                 {"set", {{"Text1", fck}, {"Text4", "20"}, {"Text5", "50"}, {"Text6", "4"},
+                                          {"Text7", "2"}, {"Text8", nk}, {"Text9", mk}}},
+                                 {"grids", {{"Form12b.Grade1", rows}}},
+                                 {"press", json::array({"Command4"})}}),
+                            std::string("Form12 fck ") + fck + " Nk " + nk + " Mk " + mk);
+}
+
+TEST(Trace, AnchorageSweepIsTrue) {
+    for (const char* key : {"Form36", "Form37", "Form38"})
+        for (const char* fck : {"20", "30", "60", "90"})
+            for (const char* surface : {"Nervurado", "Entalhado", "Liso"})
+                for (const char* bar : {"6.3", "12.5", "25"})
+                    for (bool poor : {false, true}) {
+                        const std::string k = key;
+                        json set = {{"Text1", fck}, {"List1", surface}, {"List2", bar}, {"Text3", "2"}};
+                        set[k == "Form37" ? "Text5" : "Text4"] = k == "Form37" ? "80" : "4";
+                        if (k == "Form38") set["List3"] = "33%";
+                        if (poor && k != "Form37") set[k == "Form38" ? "Option4" : "Option2"] = "true";
+                        expectTrace(run({{"module", key}, {"set", set}}),
+                                    std::string(key) + " fck " + fck + " " + surface + " " + bar + (poor ? " má" : ""));
+                    }
+}
+
 TEST(Trace, NothingRecordedWithoutARecorderAndEmptyTraceSaysSo) {
     morve::CaseRun r = morve::runCase({{"module", "Form7"}, {"set", {{"Text6", "100"}, {"Text10", "4"}, {"List6", "1"}}}});
     EXPECT_FALSE(r.session->steps().ran);
