@@ -15,6 +15,8 @@ class QToolBar;
 namespace morve {
 
 class StepsWindow : public QWidget {
+    Q_OBJECT
+
 public:
     explicit StepsWindow(QWidget* parent = nullptr);
     // Shows a trace; the window keeps its own copy of the page.
