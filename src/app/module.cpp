@@ -62,6 +62,10 @@ std::vector<std::string> ModuleRegistry::keys() {
 ModuleSession::ModuleSession(const Module& module, const StartDefaults& defaults)
     : module_(&module), info_(module.info()), state_(info_.key, module.screens()) {
     steps_.module = info_.key;
+    if (!state_.screens().empty()) {
+        const ScreenDecl& main = state_.screens().front();
+        steps_.title = main.heading.empty() ? main.title : main.heading;
+    }
     // Every module opens with the toolbar's "Imprimir" disabled until a calculation succeeds.
     state_.setEnabled(printButton(info_.key), false);
     module.load(state_, defaults);
@@ -82,8 +86,7 @@ Outcome ModuleSession::press(const std::string& command, Prompter& prompter) {
     if (calculation) {
         prompter.setTrace(previous);
         trace.module = info_.key;
-        trace.title = module_->screens().front().heading;
-        if (trace.title.empty()) trace.title = module_->screens().front().title;
+        trace.title = steps_.title;
         trace.ran = true;
         trace.stopped = trace.stopped || !outcome.completed;
         steps_ = std::move(trace);
