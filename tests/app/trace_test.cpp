@@ -76,7 +76,7 @@ TEST(Trace, EveryStepOfEveryExampleIsTrue) {
                 break;
             }
     }
-    EXPECT_GE(traced, 5);  // grows as the modules record their steps
+    EXPECT_EQ(traced, 13);  // the examples of the eight modules, each with its calculation
 }
 
 // The trace's last word on the steel is the box's text.
@@ -133,6 +133,22 @@ TEST(Trace, AnchorageSweepIsTrue) {
                         expectTrace(run({{"module", key}, {"set", set}}),
                                     std::string(key) + " fck " + fck + " " + surface + " " + bar + (poor ? " má" : ""));
                     }
+}
+
+TEST(Trace, ShearAndTorsionSweepIsTrue) {
+    for (const char* fck : {"20", "40", "70"})
+        for (const char* vk : {"10", "120", "400"}) {
+            const std::string where = std::string("fck ") + fck + " Vk " + vk;
+            expectTrace(run({{"module", "Form5"},
+                             {"set", {{"Text1", fck}, {"Text3", "20"}, {"Text4", "46"}, {"Text5", vk}, {"List1", "6.3"}}}}),
+                        "Form5 " + where);
+            for (const char* tk : {"5", "40"})
+                for (const char* mk : {"0", "150"})
+                    expectTrace(run({{"module", "Form6"},
+                                     {"set", {{"Text1", fck}, {"Text7", "25"}, {"Text8", "50"}, {"Text9", "4"},
+                                              {"Text10", mk}, {"Text11", vk}, {"Text12", tk}, {"List1", "8.0"}}}}),
+                                "Form6 " + where + " Tk " + tk + " Mk " + mk);
+        }
 }
 
 TEST(Trace, NothingRecordedWithoutARecorderAndEmptyTraceSaysSo) {
