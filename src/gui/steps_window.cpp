@@ -1,5 +1,6 @@
 #include "gui/steps_window.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QFile>
 #include <QFileDialog>
@@ -8,6 +9,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
+#include <QStyle>
 #include <QTextBrowser>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -83,10 +85,16 @@ void StepsWindow::saveWithDialog(bool pdf) {
 void addStepsButton(QToolBar* toolbar, QWidget* owner, std::function<const Trace&()> trace) {
     if (!toolbar) return;
     toolbar->addSeparator();
-    QAction* a = toolbar->addAction(QIcon::fromTheme(QStringLiteral("format-justify-left")), QStringLiteral("&Passo a passo"));
+    // Alt+P, unless a button of the window already answers to it ("Im&primir").
+    bool pTaken = false;
+    for (const QAbstractButton* b : owner->findChildren<QAbstractButton*>())
+        pTaken = pTaken || b->text().contains(QStringLiteral("&p"), Qt::CaseInsensitive);
+    QAction* a = toolbar->addAction(QIcon::fromTheme(QStringLiteral("format-justify-left"),
+                                                     owner->style()->standardIcon(QStyle::SP_FileDialogContentsView)),
+                                    pTaken ? QStringLiteral("Passo &a passo") : QStringLiteral("&Passo a passo"));
     a->setObjectName(QStringLiteral("PassoAPasso"));
     a->setToolTip(QStringLiteral("Mostra cada passo do último cálculo: fórmula, valores e item da norma"));
-    a->setShortcut(QKeySequence(QStringLiteral("Alt+P")));
+    a->setShortcut(QKeySequence(pTaken ? QStringLiteral("Alt+A") : QStringLiteral("Alt+P")));
     a->setShortcutContext(Qt::WindowShortcut);
     auto* window = new StepsWindow(owner);
     QObject::connect(a, &QAction::triggered, owner, [window, trace] {

@@ -12,7 +12,8 @@ void printHtml(const std::string& html, QPagedPaintDevice& device) {
     QTextDocument document;
     document.setHtml(QString::fromStdString(html));
     device.setPageSize(QPageSize(QPageSize::A4));
-    device.setPageMargins(QMarginsF(20, 15, 15, 15), QPageLayout::Millimeter);
+    // The document keeps its own margin of 2 cm inside the page when it prints.
+    device.setPageMargins(QMarginsF(0, 0, 0, 0), QPageLayout::Millimeter);
     document.print(&device);
 }
 
