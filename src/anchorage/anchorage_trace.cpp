@@ -32,12 +32,8 @@ void traceBasicLength(TraceRecorder rec, const AnchorageTraceInput& in) {
     const double raw = in.phi * fyd / (4 * fbd);
     rec.step("Comprimento pela aderência", "lb,calc = φ · fyd / (4 · fbd)", "{} · {} / (4 · {})",
              {{in.phi, "cm"}, {fyd, "MPa"}, {fbd, "MPa"}}, raw, "cm", -1, kBasicClause);
-    // Written by the rule the length obeyed, so that the step always agrees with it.
-    const bool heldDown = in.demand.lb < std::max(raw, 25 * in.phi);
-    rec.step("Comprimento de ancoragem básico",
-             heldDown ? "lb = min(lb,calc, 25 · φ)" : "lb = max(lb,calc, 25 · φ)",
-             heldDown ? "min({}, 25 · {})" : "max({}, 25 · {})", {{raw, "cm"}, {in.phi, "cm"}}, in.demand.lb, "cm", -1,
-             kBasicClause);
+    rec.step("Comprimento de ancoragem básico", "lb = max(lb,calc, 25 · φ)", "max({}, 25 · {})",
+             {{raw, "cm"}, {in.phi, "cm"}}, in.demand.lb, "cm", -1, kBasicClause);
 }
 
 void traceMinimums(TraceRecorder rec, const AnchorageTraceInput& in) {
