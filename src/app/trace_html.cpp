@@ -66,6 +66,26 @@ std::size_t exponentEnd(const std::string& s, std::size_t i) {
     return j;
 }
 
+// The power after the "^" at i as a superscript, its parentheses dropped; returns
+// where the text goes on.
+std::size_t appendPower(const std::string& s, std::size_t i, std::string& out) {
+    const std::size_t end = exponentEnd(s, i + 1);
+    std::string power = s.substr(i + 1, end - i - 1);
+    if (power.size() > 2 && power.front() == '(' && power.back() == ')') power = power.substr(1, power.size() - 2);
+    out += "<sup>" + escape(power) + "</sup>";
+    return end;
+}
+
+// The numbers put into a formula keep their units as written; only powers rise.
+std::string substitutionHtml(const std::string& s) {
+    std::string out;
+    for (std::size_t i = 0; i < s.size();) {
+        if (s[i] == '^') i = appendPower(s, i, out);
+        else out += escape(std::string(1, s[i++]));
+    }
+    return out;
+}
+
 const char* kStyle =
     "body{font-family:'DejaVu Sans',Arial,sans-serif;font-size:11pt;color:#000;}"
     "h1{font-size:15pt;margin:0 0 2px 0;}"
@@ -83,7 +103,7 @@ void writeStep(std::string& out, const TraceStep& s) {
     if (!s.formula.empty()) out += "<br><span class=\"f\">" + formulaHtml(s.formula) + "</span>";
     if (numbers) {
         out += "<br><span class=\"f\">";
-        if (!s.substituted.empty()) out += "= " + escape(s.substituted) + " ";
+        if (!s.substituted.empty()) out += "= " + substitutionHtml(s.substituted) + " ";
         out += "= <b>" + escape(s.result) + (s.unit.empty() ? "" : " " + escape(s.unit)) + "</b></span>";
     }
     if (s.kind == StepKind::Check)
@@ -103,12 +123,7 @@ std::string formulaHtml(const std::string& f) {
             out += symbolHtml(f.substr(i, end - i));
             i = end;
         } else if (f[i] == '^') {
-            std::size_t end = exponentEnd(f, i + 1);
-            std::string power = f.substr(i + 1, end - i - 1);
-            if (power.size() > 2 && power.front() == '(' && power.back() == ')')
-                power = power.substr(1, power.size() - 2);
-            out += "<sup>" + escape(power) + "</sup>";
-            i = end;
+            i = appendPower(f, i, out);
         } else if ((f[i] >= '0' && f[i] <= '9') || f[i] == '.') {
             // Numbers stay as they are, letters right after them included ("25φ").
             std::size_t end = i;

@@ -119,6 +119,9 @@ Outcome ModuleHost::press(const std::string& screen, const std::string& command)
     Outcome outcome = session_.press(command, prompter);
     if (!status.empty()) showStatus(status, false);
     for (auto& [name, w] : windows_) refresh(w);
+    // An open "Passo a passo" follows the calculation just made.
+    if (ScreenWindow* main = mainWindow())
+        if (StepsWindow* steps = main->findChild<StepsWindow*>(); steps && steps->isVisible()) steps->showTrace(session_.steps());
     applyScreenEffects(outcome, window(screen));
     if (!outcome.focus.empty()) {
         if (ScreenWindow* w = window(screenOf(outcome.focus)); w && w->isVisible()) {
