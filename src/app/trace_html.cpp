@@ -1,4 +1,6 @@
 
+#include <cstring>
+
 #include "app/trace.h"
 
 namespace morve {
@@ -96,19 +98,75 @@ const char* kStyle =
     ".ok{color:#006000;}"
     ".stop{color:#b00000;font-weight:bold;}";
 
+bool at(const std::string& s, std::size_t i, const char* token) { return s.compare(i, std::strlen(token), token) == 0; }
+
+// Drops parentheses that wrap the whole of an expression.
+std::string unwrapped(const std::string& e) {
+    if (e.size() < 2 || e.front() != '(' || e.back() != ')') return e;
+    int depth = 0;
+    for (std::size_t i = 0; i + 1 < e.size(); ++i) {
+        if (e[i] == '(') ++depth;
+        if (e[i] == ')' && --depth == 0) return e;
+    }
+    return e.substr(1, e.size() - 2);
+}
+
+// "N / D" with its one division at the top level, nothing added or compared there
+// and a single factor under the line: a fraction. Anything else stays on one line.
+bool splitFraction(const std::string& e, std::string& numerator, std::string& denominator) {
+    int depth = 0;
+    std::size_t slash = std::string::npos;
+    bool productAfter = false;
+    for (std::size_t i = 0; i < e.size(); ++i) {
+        if (e[i] == '(') ++depth;
+        else if (e[i] == ')') --depth;
+        if (depth != 0) continue;
+        if (at(e, i, " + ") || at(e, i, " − ") || at(e, i, " ≤ ") || at(e, i, " ≥ ") || at(e, i, ", ")) return false;
+        if (at(e, i, " / ")) {
+            if (slash != std::string::npos) return false;
+            slash = i;
+        } else if (at(e, i, " · ") && slash != std::string::npos) {
+            productAfter = true;
+        }
+    }
+    if (slash == std::string::npos || productAfter) return false;
+    numerator = unwrapped(e.substr(0, slash));
+    denominator = unwrapped(e.substr(slash + 3));
+    return true;
+}
+
+// One line of a step: `lead` and `tail` around the expression, which stands as a
+// fraction where it is one.
+void writeLine(std::string& out, const std::string& lead, const std::string& expression, const std::string& tail,
+               std::string (*html)(const std::string&)) {
+    std::string top, bottom;
+    if (!splitFraction(expression, top, bottom)) {
+        out += "<p class=\"f\" style=\"margin:0\">" + lead + html(expression) + tail + "</p>\n";
+        return;
+    }
+    out += "<table class=\"f\" cellspacing=\"0\" cellpadding=\"1\" style=\"margin:1px 0\"><tr>"
+           "<td rowspan=\"2\" valign=\"middle\">" + lead + "</td>"
+           "<td align=\"center\" style=\"border-bottom:1px solid #000000\">" + html(top) + "</td>"
+           "<td rowspan=\"2\" valign=\"middle\">" + tail + "</td></tr>"
+           "<tr><td align=\"center\">" + html(bottom) + "</td></tr></table>\n";
+}
+
 void writeStep(std::string& out, const TraceStep& s) {
     const bool numbers = !s.substituted.empty() || !s.result.empty();
-    out += "<p><b>" + escape(s.title) + "</b>";
+    out += "<p style=\"margin:8px 0 1px 0\"><b>" + escape(s.title) + "</b>";
     if (!s.clause.empty()) out += " <span class=\"c\">(" + escape(s.clause) + ")</span>";
-    if (!s.formula.empty()) out += "<br><span class=\"f\">" + formulaHtml(s.formula) + "</span>";
-    if (numbers) {
-        out += "<br><span class=\"f\">";
-        if (!s.substituted.empty()) out += "= " + substitutionHtml(s.substituted) + " ";
-        out += "= <b>" + escape(s.result) + (s.unit.empty() ? "" : " " + escape(s.unit)) + "</b></span>";
-    }
-    if (s.kind == StepKind::Check)
-        out += s.passed ? " <span class=\"ok\">— atendida</span>" : " <span class=\"stop\">— não atendida</span>";
     out += "</p>\n";
+    if (!s.formula.empty()) {
+        const std::size_t equals = s.formula.find(" = ");
+        if (equals == std::string::npos) writeLine(out, "", s.formula, "", formulaHtml);
+        else writeLine(out, formulaHtml(s.formula.substr(0, equals + 3)), s.formula.substr(equals + 3), "", formulaHtml);
+    }
+    std::string tail;
+    if (numbers) tail = "= <b>" + escape(s.result) + (s.unit.empty() ? "" : " " + escape(s.unit)) + "</b>";
+    if (s.kind == StepKind::Check)
+        tail += s.passed ? " <span class=\"ok\">— atendida</span>" : " <span class=\"stop\">— não atendida</span>";
+    if (!s.substituted.empty()) writeLine(out, "= ", s.substituted, "&nbsp;" + tail, substitutionHtml);
+    else if (!tail.empty()) out += "<p class=\"f\" style=\"margin:0\">" + tail + "</p>\n";
 }
 
 }  // namespace

@@ -162,6 +162,19 @@ TEST(Trace, FormulasReadAsMathematics) {
     EXPECT_EQ(morve::formulaHtml("As = ω · U"), "A<sub>s</sub> = ω · U");
     EXPECT_EQ(morve::formulaHtml("ε's = fck^(2/3)"), "ε'<sub>s</sub> = f<sub>ck</sub><sup>2/3</sup>");
     EXPECT_EQ(morve::formulaHtml("lb,nec = max(25φ, 10)"), "l<sub>b,nec</sub> = max(25φ, 10)");
+    // A single division at the top stands as a fraction; a sum, a comparison or a
+    // product after the division stays on its line.
+    morve::Trace t;
+    t.ran = true;
+    morve::TraceRecorder rec(&t);
+    rec.step("a", "fyd = fyk / (10 · γs)", "{} / (10 · {})", {{500, "MPa"}, {1.15, ""}}, 43.48, "kN/cm²");
+    rec.check("b", "ρ = (As + A's) / Ac ≤ 0.04", "({} + {}) / {}", {{1, "cm²"}, {2, "cm²"}, {100, "cm²"}}, 0.03, "", true);
+    rec.step("c", "x = a / b · c", "{} / {} · {}", {{1, ""}, {2, ""}, {3, ""}}, 1.5, "");
+    const std::string html = morve::traceHtml(t);
+    EXPECT_NE(html.find(">10 · γ<sub>s</sub></td>"), std::string::npos);
+    EXPECT_NE(html.find(">10 · 1.15</td>"), std::string::npos);
+    EXPECT_NE(html.find("(A<sub>s</sub> + A'<sub>s</sub>) / A<sub>c</sub> ≤ 0.04</p>"), std::string::npos);
+    EXPECT_NE(html.find("a / b · c</p>"), std::string::npos);
     EXPECT_EQ(morve::traceNumber(43.4783), "43.48");
     EXPECT_EQ(morve::traceNumber(0.00350), "0.0035");
     EXPECT_EQ(morve::traceNumber(123456.7), "123457");

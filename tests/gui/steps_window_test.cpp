@@ -120,6 +120,8 @@ private slots:
         QVERIFY(text.contains(QStringLiteral("= ") + as + QStringLiteral(" cm²")));
         timeRendering(w, "Form12");
         keepPicture(w, "form12-passo-a-passo.png");
+        w->browser()->verticalScrollBar()->setValue(w->browser()->verticalScrollBar()->maximum() * 2 / 3);
+        keepPicture(w, "form12-linha-neutra.png");
     }
 };
 
