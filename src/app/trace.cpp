@@ -62,8 +62,7 @@ void TraceRecorder::addStep(StepKind kind, const char* title, const char* formul
     trace_->steps.push_back(std::move(s));
 }
 
-void TraceRecorder::dataCheck(const std::string& message, bool passed) {
-    if (!trace_) return;
+void TraceRecorder::addDataCheck(const std::string& message, bool passed) {
     TraceStep s;
     s.kind = StepKind::Check;
     s.title = "Verificação dos dados";

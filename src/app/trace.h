@@ -60,6 +60,11 @@ public:
     void stage(const char* title) {
         if (trace_) add(StepKind::Stage, title);
     }
+    // A literal note builds no string when nothing is recorded; a note put together
+    // from values is built under `if (rec.on())` by its caller.
+    void note(const char* text) {
+        if (trace_) add(StepKind::Note, text);
+    }
     void note(const std::string& text) {
         if (trace_) add(StepKind::Note, text);
     }
@@ -79,10 +84,13 @@ public:
         if (trace_) addStep(StepKind::Check, title, formula, pattern, values, result, unit, -1, clause, passed);
     }
     // A check of the data that passed or stopped, by the text it shows when it stops.
-    void dataCheck(const std::string& message, bool passed);
+    void dataCheck(const std::string& message, bool passed) {
+        if (trace_) addDataCheck(message, passed);
+    }
 
 private:
     void add(StepKind kind, const std::string& title);
+    void addDataCheck(const std::string& message, bool passed);
     void addStep(StepKind kind, const char* title, const char* formula, const char* pattern,
                  std::initializer_list<TraceValue> values, double result, const char* unit, int decimals,
                  const char* clause, bool passed);

@@ -80,7 +80,8 @@ Outcome writeColumnSteel(CheckSequence& checks, FormState& s, const DesignBoxes&
     s.setText(boxes.diameter, chosen->second);
 
     const double phiMax = 10 * d.bmin / 8;
-    rec.note(std::to_string(d.bars) + " barras de " + chosen->second + " mm: o menor diâmetro comercial que não é menor que φ.");
+    if (rec.on())
+        rec.note(std::to_string(d.bars) + " barras de " + chosen->second + " mm: o menor diâmetro comercial que não é menor que φ.");
     rec.check("Diâmetro máximo", "φ ≤ φmax = 10 · bmin / 8", "10 · {} / 8", {{d.bmin, "cm"}}, phiMax, "mm",
               !(phiMax < chosen->first), "NBR-6118:2014, 18.4.2.1");
     checks.warnIf(phiMax < chosen->first, d.tooThick);
