@@ -12,7 +12,7 @@ void printHtml(const std::string& html, QPagedPaintDevice& device) {
     QTextDocument document;
     document.setHtml(QString::fromStdString(html));
     device.setPageSize(QPageSize(QPageSize::A4));
-    // The document keeps its own margin of 2 cm inside the page when it prints.
+    // QTextDocument keeps a margin of its own, 2 cm inside the page, when it prints.
     device.setPageMargins(QMarginsF(0, 0, 0, 0), QPageLayout::Millimeter);
     document.print(&device);
 }
