@@ -13,6 +13,7 @@
 #include <sstream>
 
 #include "app/module.h"
+#include "app/trace.h"
 #include "draw/drawing.h"
 #include "cli/case_runner.h"
 #include "reports/report_dispatch.h"
@@ -67,6 +68,7 @@ public:
     // One press, with the answers a user in a hurry gives (No, Cancel).
     void press(ModuleSession& session, const std::string& command, const std::string& trial) {
         ScriptedPrompter prompter;
+        session.recordSteps(true);
         const auto start = std::chrono::steady_clock::now();
         Outcome outcome;
         try {
@@ -87,6 +89,10 @@ public:
             for (const auto& row : rows)
                 for (const auto& cell : row) expectNumbers(cell, trial + " " + name);
         if (outcome.completed) reportAndPictures(session, trial);
+        // The steps of the run, stopped or not: every number a number.
+        const std::string steps = traceHtml(session.steps());
+        expectNumbers(steps, trial + " passo a passo");
+        EXPECT_EQ(steps.find("= <b>—"), std::string::npos) << where_ << " " << trial << " passo a passo";
     }
 
 private:

@@ -88,4 +88,10 @@ const std::vector<std::string>& lapShareItems() {
     return items;
 }
 
+double surfaceCoefficient(BarSurface surface) {
+    for (const auto& row : kSurfaces)
+        if (row.surface == surface) return row.eta1;
+    return 1.0;
+}
+
 }  // namespace morve

@@ -51,4 +51,7 @@ double lapMinimum(double lb, double phi, double factor, bool tension);
 double lapFactor(const std::string& listText);
 const std::vector<std::string>& lapShareItems();
 
+// eta1 of a bar surface, as the bond strength takes it.
+double surfaceCoefficient(BarSurface surface);
+
 }  // namespace morve

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "anchorage/anchorage_length.h"
+#include "anchorage/anchorage_trace.h"
 #include "app/numbers.h"
 #include "basis/checks.h"
 #include "basis/materials.h"
@@ -152,6 +153,8 @@ Outcome AnchorageModule::calculate(FormState& s, Prompter& prompter) const {
             break;
     }
     const AnchorageLengths lengths = anchorageLengths(demand);
+    traceAnchorage(TraceRecorder(prompter.trace()), {form_.kind, fck, fyk, phi, *surface, goodBond, tension,
+                                                     support ? s.number("Text5") : 0, demand, lengths});
     s.setText("Text6", formatResult(lengths.straight, 0));
     s.setText("Text7", formatResult(lengths.hooked, 0));
     return Outcome::done().then(EffectKind::EnableControl, printButton(form_.key));

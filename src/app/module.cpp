@@ -61,6 +61,11 @@ std::vector<std::string> ModuleRegistry::keys() {
 
 ModuleSession::ModuleSession(const Module& module, const StartDefaults& defaults)
     : module_(&module), info_(module.info()), state_(info_.key, module.screens()) {
+    steps_.module = info_.key;
+    if (!state_.screens().empty()) {
+        const ScreenDecl& main = state_.screens().front();
+        steps_.title = main.heading.empty() ? main.title : main.heading;
+    }
     // Every module opens with the toolbar's "Imprimir" disabled until a calculation succeeds.
     state_.setEnabled(printButton(info_.key), false);
     module.load(state_, defaults);
@@ -73,7 +78,19 @@ Outcome ModuleSession::press(const std::string& command, Prompter& prompter) {
         refused.refused = std::move(why);
         return refused;
     }
+    const bool calculation = recordSteps_ && state_.qualify(command) == state_.qualify(info_.calculate);
+    Trace trace;
+    Trace* previous = prompter.trace();
+    if (calculation) prompter.setTrace(&trace);
     Outcome outcome = module_->press(command, state_, prompter);
+    if (calculation) {
+        prompter.setTrace(previous);
+        trace.module = info_.key;
+        trace.title = steps_.title;
+        trace.ran = true;
+        trace.stopped = trace.stopped || !outcome.completed;
+        steps_ = std::move(trace);
+    }
     if (!outcome.focus.empty()) outcome.focus = state_.qualify(outcome.focus);
     apply(outcome);
     return outcome;

@@ -12,6 +12,7 @@
 #include "app/prompter.h"
 #include "app/screen.h"
 #include "app/start_defaults.h"
+#include "app/trace.h"
 #include "draw/chart.h"
 #include "draw/drawing.h"
 
@@ -92,12 +93,19 @@ public:
     void apply(const Outcome& outcome);
     bool screenShown(const std::string& screen) const;
 
+    // With recording on, each "CALCULAR" writes its "Passo a passo"; the session
+    // keeps the one of the latest run, stopped or not. Off, nothing is recorded.
+    void recordSteps(bool on) { recordSteps_ = on; }
+    const Trace& steps() const { return steps_; }
+
 private:
     const Module* module_;
     ModuleInfo info_;
     FormState state_;
     std::vector<std::string> shown_;
     std::vector<std::string> disabledScreens_;
+    bool recordSteps_ = false;
+    Trace steps_;
 };
 
 }  // namespace morve

@@ -7,6 +7,8 @@
 
 namespace morve {
 
+struct Trace;
+
 inline const std::string kBoxTitle = "MORVE";
 
 enum class MessageKind { Warning, YesNo, OkCancel };
@@ -19,6 +21,14 @@ public:
     virtual bool askYesNo(const std::string& text, const std::string& title = kBoxTitle) = 0;
     // true for OK.
     virtual bool askOkCancel(const std::string& text, const std::string& title = kBoxTitle) = 0;
+
+    // The "Passo a passo" the calculation writes into, null when none is asked for.
+    // It travels with the prompter because every calculation already receives one.
+    Trace* trace() const { return trace_; }
+    void setTrace(Trace* trace) { trace_ = trace; }
+
+private:
+    Trace* trace_ = nullptr;
 };
 
 struct Message {

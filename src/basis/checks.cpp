@@ -1,5 +1,6 @@
 #include "basis/checks.h"
 
+#include "app/trace.h"
 #include "basis/messages.h"
 
 namespace morve {
@@ -10,7 +11,9 @@ std::string msg::positiveValue(const std::string& name) {
 
 CheckSequence& CheckSequence::warnIf(bool failed, const std::string& message,
                                      const std::string& focus, const std::string& title) {
-    if (stopped_ || !failed) return *this;
+    if (stopped_) return *this;
+    TraceRecorder(prompter_.trace()).dataCheck(message, !failed);
+    if (!failed) return *this;
     prompter_.warn(message, title);
     stopped_ = true;
     focus_ = focus;
@@ -19,8 +22,13 @@ CheckSequence& CheckSequence::warnIf(bool failed, const std::string& message,
 
 CheckSequence& CheckSequence::askIf(bool doubtful, const std::string& question,
                                     const std::string& focus) {
-    if (stopped_ || !doubtful) return *this;
+    if (stopped_) return *this;
+    if (!doubtful) {
+        TraceRecorder(prompter_.trace()).dataCheck(question, true);
+        return *this;
+    }
     if (prompter_.askYesNo(question)) {
+        TraceRecorder(prompter_.trace()).dataCheck(question, false);
         stopped_ = true;
         focus_ = focus;
     }
@@ -29,8 +37,13 @@ CheckSequence& CheckSequence::askIf(bool doubtful, const std::string& question,
 
 CheckSequence& CheckSequence::confirmIf(bool doubtful, const std::string& question,
                                         const std::string& focus) {
-    if (stopped_ || !doubtful) return *this;
+    if (stopped_) return *this;
+    if (!doubtful) {
+        TraceRecorder(prompter_.trace()).dataCheck(question, true);
+        return *this;
+    }
     if (prompter_.askOkCancel(question)) {
+        TraceRecorder(prompter_.trace()).dataCheck(question, false);
         stopped_ = true;
         focus_ = focus;
     }

@@ -32,6 +32,15 @@ struct DesignBasis {
 DesignBasis designBasis(CheckSequence& checks, const FormState& state, double fck, double fyk,
                         double es, double gamac, double gamas, double gamaf, double mk);
 
+class TraceRecorder;
+// The steps of the basis in the "Passo a passo": fyd, the block, sigmacd, Md, xlim.
+void traceDesignBasis(TraceRecorder rec, const DesignBasis& b, DuctilityCriterion criterion, double beta,
+                      double fck, double fyk, double es, double gamac, double gamas, double gamaf, double mk);
+// The stress block of a concrete: its constants up to 50 MPa, its three formulas above.
+void traceStressBlock(TraceRecorder rec, const StressBlockValues& block, double fck);
+void traceDuctilityLimit(TraceRecorder rec, DuctilityCriterion criterion, double xlim, double beta, double fck,
+                         double fyk, double gamas, double es);
+
 // What the bending designs of beams and slabs read and check before the arithmetic,
 // in one order: fck range, class, fyk and Es positive,
 // steel class and code modulus.

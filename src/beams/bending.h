@@ -9,6 +9,7 @@
 #include "basis/checks.h"
 #include "basis/design_basis.h"
 #include "basis/materials.h"
+#include "app/trace.h"
 
 namespace morve {
 
@@ -28,11 +29,11 @@ struct ReducedSteel {
 // that stop the run first. omegaLimit is the tension steel at the limit.
 ReducedSteel doubleReinforcement(double mu, double mulim, double omegaLimit, double xlim,
                                  double delta, const StressBlockValues& block, double es,
-                                 double fyd);
+                                 double fyd, TraceRecorder rec = TraceRecorder(nullptr));
 
 // A rectangle: single reinforcement up to mulim, double beyond it. es and fyd in kN/cm2.
 ReducedSteel designRectangle(double mu, double xlim, double delta, const StressBlockValues& block,
-                             double es, double fyd);
+                             double es, double fyd, TraceRecorder rec = TraceRecorder(nullptr));
 
 // Where the compression block of a T section lies at the ductility limit.
 enum class TeeBranch {
@@ -49,7 +50,8 @@ struct TeeSteel {
     ReducedSteel steel;
 };
 TeeSteel designTee(double mu, double xlim, double eta, double r, double delta,
-                   const StressBlockValues& block, double es, double fyd);
+                   const StressBlockValues& block, double es, double fyd,
+                   TraceRecorder rec = TraceRecorder(nullptr));
 
 // Said by the T modules when the flange is not wider than the web.
 inline const std::string kFlangeWiderThanWeb = "A largura da mesa deve ser maior que a largura da nervura.";

@@ -116,9 +116,20 @@ Outcome Form10::calculate(FormState& s, Prompter& prompter) const {
     const double xlim = basis.xlim, md = basis.md, fyd = basis.fyd, sigmacd = basis.sigmacd;
     const StressBlockValues& block = basis.block;
     const double mu = md / (bf * d * d * sigmacd);
+    TraceRecorder rec(prompter.trace());
+    rec.stage("Flexão da seção T");
+    rec.step("Momento reduzido", "μ = Md / (bf · d² · σcd)", "{} / ({} · ({})² · {})",
+             {{md, "kN·cm"}, {bf, "cm"}, {d, "cm"}, {sigmacd, "kN/cm²"}}, mu, "", -1, "NBR-6118:2014, 17.2.2");
+    rec.step("Espessura relativa da mesa", "η = hf / d", "{} / {}", {{hf, "cm"}, {d, "cm"}}, hf / d, "");
+    rec.step("Posição relativa da armadura comprimida", "δ = d' / d", "{} / {}", {{dPrime, "cm"}, {d, "cm"}}, dPrime / d, "");
+    rec.step("Razão das larguras", "r = bw / bf", "{} / {}", {{bw, "cm"}, {bf, "cm"}}, bw / bf, "");
 
     const ReducedSteel steel =
-        designTee(mu, xlim, hf / d, bw / bf, dPrime / d, block, es * 100, fyd).steel;
+        designTee(mu, xlim, hf / d, bw / bf, dPrime / d, block, es * 100, fyd, rec).steel;
+    rec.step("Área de referência", "U = bf · d · σcd / fyd", "{} · {} · {} / {}",
+             {{bf, "cm"}, {d, "cm"}, {sigmacd, "kN/cm²"}, {fyd, "kN/cm²"}}, bf * d * sigmacd / fyd, "cm²");
+    rec.step("Área de concreto", "Ac = bf · hf + (h − hf) · bw", "{} · {} + ({} − {}) · {}",
+             {{bf, "cm"}, {hf, "cm"}, {h, "cm"}, {hf, "cm"}, {bw, "cm"}}, bf * hf + (h - hf) * bw, "cm²");
     return finishDesign(checks, s, steel, bf * d * sigmacd / fyd, bf * hf + (h - hf) * bw, fck, fyd, output());
 }
 

@@ -1,10 +1,13 @@
 #include "beams/form5.h"
 
+#include <algorithm>
+
 #include "app/numbers.h"
 #include "basis/checks.h"
 #include "basis/messages.h"
 #include "basis/start_values.h"
 #include "beams/shear_common.h"
+#include "beams/shear_trace.h"
 #include "reports/report_writer.h"
 
 namespace morve {
@@ -87,16 +90,30 @@ Outcome Form5::calculate(FormState& s, Prompter& prompter) const {
     const double fyd = stirrupDesignStrength(fyk, gamas);
     const double tauwd = 10 * vd / (bw * d);
     const double tauwu = 0.27 * strutReduction(fck) * fcd;
+    TraceRecorder rec(prompter.trace());
+    rec.stage("Esforço cortante");
+    rec.step("Força cortante de cálculo", "Vd = γf · Vk", "{} · {}", {{gamaf, ""}, {vk, "kN"}}, vd, "kN", -1,
+             "NBR-6118:2014, 11.7.1");
+    rec.step("Resistência de cálculo do concreto", "fcd = fck / γc", "{} / {}", {{fck, "MPa"}, {gamac, ""}}, fcd, "MPa", -1,
+             "NBR-6118:2014, 12.3.3");
+    traceShearStrut(rec, fyk, gamas, fyd, vd, bw, d, fck, fcd, tauwd);
     checks.warnIf(tauwu < tauwd, msg::kCrushedStrut);
     if (checks.stopped()) return checks.outcome();
 
     double asw = shearStirrupArea(bw, tauwd, concreteShearStress(fck, gamac), fyd);
+    rec.stage("Estribos");
+    traceShearStirrups(rec, fck, gamac, bw, tauwd, fyd, asw);
     const double aswMin = 100 * minimumStirrupRatio(fck, fyk) * bw;
+    traceMinimumStirrups(rec, fck, fyk, bw);
+    rec.step("Estribos adotados", "Asw = max(Asw, Asw,min)", "max({}, {})", {{asw, "cm²/m"}, {aswMin, "cm²/m"}},
+             std::max(asw, aswMin), "cm²/m", 2);
     if (asw < aswMin) asw = aswMin;
     s.setText("Text6", formatResult(asw));
 
     const double smax = maximumStirrupSpacing(0.67 * tauwu < tauwd, d);
-    writeStirrupProposal(s, kProposalBoxes, proposeStirrups(asw, s.number("List1"), smax));
+    const StirrupProposal proposal = proposeStirrups(asw, s.number("List1"), smax);
+    traceStirrupProposal(rec, 0.67 * tauwu < tauwd, d, smax, asw, proposal.diameter, proposal.legs, proposal.spacing);
+    writeStirrupProposal(s, kProposalBoxes, proposal);
     return Outcome::done().then(EffectKind::EnableControl, printButton("Form5"));
 }
 

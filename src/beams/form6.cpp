@@ -1,5 +1,6 @@
 #include "beams/form6.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "app/numbers.h"
@@ -8,7 +9,9 @@
 #include "basis/start_values.h"
 #include "beams/bending.h"
 #include "beams/shear_common.h"
+#include "beams/shear_trace.h"
 #include "beams/torsion.h"
+#include "beams/torsion_trace.h"
 #include "reports/report_writer.h"
 
 namespace morve {
@@ -145,16 +148,31 @@ Outcome Form6::calculate(FormState& s, Prompter& prompter) const {
     const double fcd = fck / 10 / gamac;
     const double vd = gamaf * vk, td = gamaf * tk * 100;
     double as = 0, asPrime = 0;
+    TraceRecorder rec(prompter.trace());
+    rec.stage("Flexão");
+    rec.step("Altura útil", "d = h − d'", "{} − {}", {{h, "cm"}, {dPrime, "cm"}}, d, "cm");
     if (md != 0) {
+        rec.step("Momento reduzido", "μ = Md / (b · d² · σcd)", "{} / ({} · ({})² · {})",
+                 {{md, "kN·cm"}, {b, "cm"}, {d, "cm"}, {sigmacd, "kN/cm²"}}, md / (b * d * d * sigmacd), "", -1,
+                 "NBR-6118:2014, 17.2.2");
         const ReducedSteel steel =
-            designRectangle(md / (b * d * d * sigmacd), xlim, dPrime / d, block, es * 100, fyd);
+            designRectangle(md / (b * d * d * sigmacd), xlim, dPrime / d, block, es * 100, fyd, rec);
         checks.warnIf(steel.stop != BendingStop::None, bendingStopMessage(steel.stop),
                       kBendingStopFocus);
         if (checks.stopped()) return checks.outcome();
         as = steel.omega * b * d * sigmacd / fyd;
         asPrime = steel.omegaPrime * b * d * sigmacd / fyd;
+        rec.step("Armadura de flexão tracionada", "As = ω · b · d · σcd / fyd", "{} · {} · {} · {} / {}",
+                 {{steel.omega, ""}, {b, "cm"}, {d, "cm"}, {sigmacd, "kN/cm²"}, {fyd, "kN/cm²"}}, as, "cm²", 2);
+        rec.step("Armadura de flexão comprimida", "A's = ω' · b · d · σcd / fyd", "{} · {} · {} · {} / {}",
+                 {{steel.omegaPrime, ""}, {b, "cm"}, {d, "cm"}, {sigmacd, "kN/cm²"}, {fyd, "kN/cm²"}}, asPrime, "cm²", 2);
     }
     const double asMin = torsionBendingMinimumRatio(fck, fyd * 10) * b * h;
+    rec.step("Taxa mínima de flexão", "ρmin", "", {}, torsionBendingMinimumRatio(fck, fyd * 10), "", -1,
+             "NBR-6118:2014, 17.3.5.2.1");
+    rec.step("Armadura de flexão adotada", "As = max(As, ρmin · b · h)", "max({}, {} · {} · {})",
+             {{as, "cm²"}, {torsionBendingMinimumRatio(fck, fyd * 10), ""}, {b, "cm"}, {h, "cm"}}, std::max(as, asMin),
+             "cm²", 2);
     if (as < asMin) as = asMin;
 
     // Shear and torsion in MPa.
@@ -173,6 +191,7 @@ Outcome Form6::calculate(FormState& s, Prompter& prompter) const {
     const double tautd = 10 * td / (2 * wall.ae * wall.te);
     const double tautd2 = 0.25 * alphav * fcdMpa;
     const double ratio = tauwd / tauwd2 + tautd / tautd2;
+    traceTorsionStrut(rec, {b, h, dPrime, d, gamaf, vk, tk, fck, fcdMpa, wall, tauwd, tauwd2, tautd, tautd2, ratio});
     checks.warnIf(ratio > 1, msg::kCrushedStrut);
     if (checks.stopped()) return checks.outcome();
 
@@ -186,7 +205,25 @@ Outcome Form6::calculate(FormState& s, Prompter& prompter) const {
     double stirrups = 2 * aswT + aswV;
     if (stirrups < 100 * rhow * b) stirrups = 100 * rhow * b;
     const double aslMin = 0.5 * rhow * wall.ue * b;
+    if (rec.on()) {
+        rec.stage("Armaduras de torção e estribos");
+        traceShearStirrups(rec, fck, gamac, b, tauwd, fydStirrup, aswV);
+        rec.step("Estribos de torção (um ramo)", "Asw,T = 100 · Td / (2 · Ae · fywd / 10)", "100 · {} / (2 · {} · {} / 10)",
+                 {{td, "kN·cm"}, {wall.ae, "cm²"}, {fydStirrup, "MPa"}}, aswT, "cm²/m", 2, "NBR-6118:2014, 17.5.1.6");
+        rec.step("Armadura longitudinal de torção", "Asl = ue · Td / (2 · Ae · fywd / 10)", "{} · {} / (2 · {} · {} / 10)",
+                 {{wall.ue, "cm"}, {td, "kN·cm"}, {wall.ae, "cm²"}, {fydStirrup, "MPa"}},
+                 wall.ue * td / (2 * wall.ae * fydTorsion), "cm²", -1, "NBR-6118:2014, 17.5.1.6");
+        traceMinimumStirrups(rec, fck, fyk, b);
+        rec.step("Estribos totais", "Asw = max(2 · Asw,T + Asw,V, Asw,min)", "max(2 · {} + {}, 100 · {} · {})",
+                 {{aswT, "cm²/m"}, {aswV, "cm²/m"}, {rhow, ""}, {b, "cm"}}, stirrups, "cm²/m");
+        rec.step("Mínimo longitudinal de torção", "Asl,min = 0.5 · ρw,min · ue · b", "0.5 · {} · {} · {}",
+                 {{rhow, ""}, {wall.ue, "cm"}, {b, "cm"}}, aslMin, "cm²", -1, "NBR-6118:2014, 17.5.1.2");
+    }
     if (asl > 0 && asl < aslMin) asl = aslMin;
+    rec.step("Armadura longitudinal de torção adotada", "Asl", "", {}, asl, "cm²", 2);
+    rec.check("Taxa total de armadura", "ρ = (A's + As + Asl) / (h · b) ≤ 0.04", "({} + {} + {}) / ({} · {})",
+              {{asPrime, "cm²"}, {as, "cm²"}, {asl, "cm²"}, {h, "cm"}, {b, "cm"}}, (asPrime + as + asl) / (h * b), "",
+              !((asPrime + as + asl) / (h * b) > 0.04), "NBR-6118:2014, 17.3.5.2.4");
 
     checks.warnIf((asPrime + as + asl) / (h * b) > 0.04, msg::kSteelRateAbove4);
     if (checks.stopped()) return checks.outcome();
@@ -202,7 +239,9 @@ Outcome Form6::calculate(FormState& s, Prompter& prompter) const {
     s.setText("Form6b.Text6", formatResult(faces.side));
 
     const double smax = maximumStirrupSpacing(!(ratio <= 0.67), d);
-    writeStirrupProposal(s, kProposalBoxes, proposeStirrups(stirrups, s.number("List1"), smax));
+    const StirrupProposal proposal = proposeStirrups(stirrups, s.number("List1"), smax);
+    traceStirrupProposal(rec, !(ratio <= 0.67), d, smax, stirrups, proposal.diameter, proposal.legs, proposal.spacing);
+    writeStirrupProposal(s, kProposalBoxes, proposal);
     return Outcome::done()
         .then(EffectKind::HideScreen, "Form6")
         .then(EffectKind::ShowScreen, "Form0b")

@@ -109,8 +109,16 @@ Outcome Form7::calculate(FormState& s, Prompter& prompter) const {
     const double xlim = basis.xlim, md = basis.md, fyd = basis.fyd, sigmacd = basis.sigmacd;
     const StressBlockValues& block = basis.block;
     const double mu = md / (b * d * d * sigmacd);
+    TraceRecorder rec(prompter.trace());
+    rec.stage("Flexão da seção retangular");
+    rec.step("Momento reduzido", "μ = Md / (b · d² · σcd)", "{} / ({} · ({})² · {})",
+             {{md, "kN·cm"}, {b, "cm"}, {d, "cm"}, {sigmacd, "kN/cm²"}}, mu, "", -1, "NBR-6118:2014, 17.2.2");
 
-    ReducedSteel steel = designRectangle(mu, xlim, dPrime / d, block, es * 100, fyd);
+    rec.step("Posição relativa da armadura comprimida", "δ = d' / d", "{} / {}", {{dPrime, "cm"}, {d, "cm"}}, dPrime / d, "");
+    ReducedSteel steel = designRectangle(mu, xlim, dPrime / d, block, es * 100, fyd, rec);
+    rec.step("Área de referência", "U = b · d · σcd / fyd", "{} · {} · {} / {}",
+             {{b, "cm"}, {d, "cm"}, {sigmacd, "kN/cm²"}, {fyd, "kN/cm²"}}, b * d * sigmacd / fyd, "cm²");
+    rec.step("Área de concreto", "Ac = b · h", "{} · {}", {{b, "cm"}, {h, "cm"}}, b * h, "cm²");
     return finishDesign(checks, s, steel, b * d * sigmacd / fyd, b * h, fck, fyd, output());
 }
 

@@ -140,7 +140,7 @@ json parseCase(const std::string& text) {
     }
 }
 
-CaseRun runCase(const json& c) {
+CaseRun runCase(const json& c, bool recordSteps) {
     if (!c.is_object() || !c.contains("module") || !c.at("module").is_string())
         throw CaseError("o caso deve indicar o módulo: {\"module\": \"Form7\", ...}");
     const std::string key = c.at("module").get<std::string>();
@@ -154,6 +154,7 @@ CaseRun runCase(const json& c) {
     CaseRun run;
     run.session = std::make_unique<ModuleSession>(*module, readStartup(c));
     ModuleSession& session = *run.session;
+    session.recordSteps(recordSteps);
     if (c.contains("open")) openCaseProject(session, c.at("open"));
     if (c.contains("set")) applySet(session, c.at("set"));
     if (c.contains("grids")) applyGrids(session, c.at("grids"));

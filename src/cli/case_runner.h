@@ -22,7 +22,8 @@ struct CaseRun {
     nlohmann::json outcome;
 };
 
-CaseRun runCase(const nlohmann::json& caseFile);
+// With recordSteps each "CALCULAR" writes its "Passo a passo" (session.steps()).
+CaseRun runCase(const nlohmann::json& caseFile, bool recordSteps = false);
 nlohmann::json parseCase(const std::string& text);
 
 }  // namespace morve

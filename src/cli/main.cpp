@@ -22,6 +22,7 @@ const char* kUsage =
     "     morve-calc --report SAIDA.pdf|SAIDA.txt [--key CHAVE] [--title TITULO] CASO.json\n"
     "     morve-calc --save SAIDA.mor CASO.json\n"
     "     morve-calc --picture Form40d.Picture1 SAIDA.gif|SAIDA.png|SAIDA.svg CASO.json\n"
+    "     morve-calc --steps SAIDA.html|SAIDA.pdf CASO.json\n"
     "     morve-calc --check CASO.json...\n"
     "     morve-calc --list\n"
     "     morve-calc --version\n";
@@ -41,7 +42,7 @@ int listModules() {
 }  // namespace
 
 int main(int argc, char** argv) {
-    std::string casePath, reportPath, savePath, key, title, picture, picturePath;
+    std::string casePath, stepsPath, reportPath, savePath, key, title, picture, picturePath;
     std::vector<std::string> casePaths;
     bool check = false;
     for (int i = 1; i < argc; ++i) {
@@ -64,6 +65,7 @@ int main(int argc, char** argv) {
         }
         if (a == "--check") check = true;
         else if (a == "--report") reportPath = value("--report");
+        else if (a == "--steps") stepsPath = value("--steps");
         else if (a == "--save") savePath = value("--save");
         else if (a == "--key") key = value("--key");
         else if (a == "--picture") {
@@ -100,9 +102,15 @@ int main(int argc, char** argv) {
     try {
         nlohmann::json caseFile = morve::parseCase(text.str());
         morve::resolveCaseProject(caseFile, casePath);
-        morve::CaseRun run = morve::runCase(caseFile);
+        morve::CaseRun run = morve::runCase(caseFile, !stepsPath.empty());
         if (!savePath.empty()) morve::saveCaseProject(*run.session, savePath);
-        if (!picture.empty()) {
+        if (!stepsPath.empty()) {
+            std::string error = morve::writeStepsFile(*run.session, stepsPath);
+            if (!error.empty()) {
+                std::cerr << "morve-calc: " << error << "\n";
+                return 2;
+            }
+        } else if (!picture.empty()) {
             std::string error = morve::writePictureFile(*run.session, picture, picturePath);
             if (!error.empty()) {
                 std::cerr << "morve-calc: " << error << "\n";

@@ -42,6 +42,23 @@ std::string writeReportFile(const ModuleSession& session, const std::string& pat
     return "a extensão do relatório deve ser .txt ou .pdf: " + path;
 }
 
+std::string writeStepsFile(const ModuleSession& session, const std::string& path) {
+    const std::string html = traceHtml(session.steps());
+    if (endsWith(path, ".html") || endsWith(path, ".htm")) {
+        std::ofstream out(path, std::ios::binary);
+        if (!out) return "não foi possível gravar " + path;
+        out << html;
+        return out ? "" : "não foi possível gravar " + path;
+    }
+    if (endsWith(path, ".pdf")) {
+        std::string why;
+        const RenderEntryPoints* renderer = loadRenderer(why);
+        if (!renderer) return why;
+        return renderer->htmlPdf(html, path);
+    }
+    return "a extensão do passo a passo deve ser .html ou .pdf: " + path;
+}
+
 std::string writePictureFile(const ModuleSession& session, const std::string& picture, const std::string& path) {
     const FormState& state = session.state();
     const std::string name = state.qualify(picture);

@@ -16,4 +16,8 @@ std::string writeReportFile(const ModuleSession& session, const std::string& pat
 // GIF, PNG or SVG file by its extension; "" on success, otherwise what went wrong.
 std::string writePictureFile(const ModuleSession& session, const std::string& picture, const std::string& path);
 
+// The "Passo a passo" of the case's last "CALCULAR", as one HTML page or as PDF by
+// the extension; "" on success, otherwise what went wrong.
+std::string writeStepsFile(const ModuleSession& session, const std::string& path);
+
 }  // namespace morve

@@ -3,7 +3,9 @@
 #include <cmath>
 
 #include "app/numbers.h"
+#include "app/trace.h"
 #include "basis/checks.h"
+#include "basis/design_basis.h"
 #include "basis/messages.h"
 #include "columns/column_form.h"
 #include "columns/column_section.h"
@@ -50,6 +52,23 @@ SectionModel modelOf(const ColumnSection& section, const StressBlockParametersVa
 
 bool finite(double x) { return std::isfinite(x); }
 
+void traceColumnBasis(TraceRecorder rec, const ColumnForm& f, const Strengths& m, double gamac, double gamas,
+                      const StressBlockParametersValues& block, double sigmacd) {
+    if (!rec.on()) return;
+    rec.stage("Materiais");
+    rec.step("Resistência de cálculo do concreto", "fcd = fck / (10 · γc)", "{} / (10 · {})", {{m.fck, "MPa"}, {gamac, ""}},
+             m.fcd, "kN/cm²", -1, "NBR-6118:2014, 12.3.3");
+    rec.step("Resistência de cálculo do aço", "fyd = fyk / (10 · γs)", "{} / (10 · {})", {{m.fyk, "MPa"}, {gamas, ""}},
+             m.fyd, "kN/cm²", -1, "NBR-6118:2014, 12.3.1");
+    traceStressBlock(rec, StressBlockValues{block.lambda, block.alphac, block.epsCu}, m.fck);
+    if (isCircular(f.shape))
+        rec.step("Tensão no bloco (seção circular)", "σcd = 0.9 · αc · fcd", "0.9 · {} · {}",
+                 {{block.alphac, ""}, {m.fcd, "kN/cm²"}}, sigmacd, "kN/cm²", -1, "NBR-6118:2014, 17.2.2");
+    else
+        rec.step("Tensão no bloco", "σcd = αc · fcd", "{} · {}", {{block.alphac, ""}, {m.fcd, "kN/cm²"}}, sigmacd,
+                 "kN/cm²", -1, "NBR-6118:2014, 17.2.2");
+}
+
 }  // namespace
 
 Outcome ColumnModule::design(FormState& s, Prompter& prompter) const {
@@ -77,10 +96,27 @@ Outcome ColumnModule::design(FormState& s, Prompter& prompter) const {
     const double ac = section.area(), h = section.h;
     const double nu = nd / (ac * sigmacd), mu = md / (ac * h * sigmacd);
     const SectionModel model = modelOf(section, block, m);
+    TraceRecorder rec(prompter.trace());
+    traceColumnBasis(rec, f, m, s.number(f.gamac), s.number(f.gamas), block, sigmacd);
+    rec.stage("Esforços reduzidos");
+    rec.step("Esforço normal de cálculo", "Nd = γf · Nk", "{} · {}", {{gamaf, ""}, {nk, "kN"}}, nd, "kN", -1,
+             "NBR-6118:2014, 11.7.1");
+    rec.step("Momento de cálculo", "Md = 100 · γf · Mk", "100 · {} · {}", {{gamaf, ""}, {mk, "kN·m"}}, md, "kN·cm", -1,
+             "NBR-6118:2014, 11.7.1");
+    rec.step("Área da seção", "Ac", "", {}, ac, "cm²");
+    rec.step("Esforço normal reduzido", "ν = Nd / (Ac · σcd)", "{} / ({} · {})", {{nd, "kN"}, {ac, "cm²"}, {sigmacd, "kN/cm²"}},
+             nu, "");
+    rec.step("Momento reduzido", "μ = Md / (Ac · h · σcd)", "{} / ({} · {} · {})",
+             {{md, "kN·cm"}, {ac, "cm²"}, {h, "cm"}, {sigmacd, "kN/cm²"}}, mu, "");
 
-    const DesignRatio ratio = designRatio(model, nu, mu);
+    const DesignRatio ratio = designRatio(model, nu, mu, rec);
     checks.warnIf(ratio.stop != SearchStop::Converged, searchStopMessage(ratio.stop));
     const double as = ac * std::max(ratio.omega, 0.0) * sigmacd / m.fyd;
+    if (!checks.stopped()) {
+        rec.stage("Armaduras");
+        rec.step("Área de aço calculada", "As = Ac · max(ω, 0) · σcd / fyd", "{} · max({}, 0) · {} / {}",
+                 {{ac, "cm²"}, {ratio.omega, ""}, {sigmacd, "kN/cm²"}, {m.fyd, "kN/cm²"}}, as, "cm²", 2);
+    }
     const std::string tooThick =
         isCircular(f.shape)
             ? "Resultou um diâmetro das barras superior ao valor máximo (h/8) estabelecido na NBR-6118."

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "app/numbers.h"
+#include "app/trace.h"
 #include "columns/section_model.h"
 #include "reports/report_writer.h"
 
@@ -55,6 +56,10 @@ double minimumColumnSteel(double ac, double nd, double fcd, double fyd) {
 Outcome writeColumnSteel(CheckSequence& checks, FormState& s, const DesignBoxes& boxes, const DesignedSteel& d) {
     checks.warnIf(!std::isfinite(d.as), kUndefinedResult);
     const double rho = 100 * d.as / d.ac;
+    TraceRecorder rec(checks.prompter().trace());
+    if (std::isfinite(d.as))
+        rec.check("Taxa de armadura", "ρ = 100 · As / Ac ≤ 8 %", "100 · {} / {}", {{d.as, "cm²"}, {d.ac, "cm²"}}, rho, "%",
+                  !(rho > 8), "NBR-6118:2014, 17.3.5.3.2");
     checks.warnIf(rho > 8, kRateAbove8);
     if (checks.stopped()) return checks.outcome();
     if (rho > 4) checks.prompter().warn(kRateAbove4);
@@ -62,8 +67,12 @@ Outcome writeColumnSteel(CheckSequence& checks, FormState& s, const DesignBoxes&
 
     const double asMin = minimumColumnSteel(d.ac, d.nd, d.fcd, d.fyd);
     s.setText(boxes.asMinimum, formatResult(asMin));
+    rec.step("Armadura mínima", "As,min = Ac · max(0.15 · Nd / (Ac · fyd), 0.004)", "{} · max(0.15 · {} / ({} · {}), 0.004)",
+             {{d.ac, "cm²"}, {d.nd, "kN"}, {d.ac, "cm²"}, {d.fyd, "kN/cm²"}}, asMin, "cm²", 2, "NBR-6118:2014, 17.3.5.3.1");
 
     const double phi = 10 * std::sqrt(4 * std::max(d.as, asMin) / (d.bars * kBarPi));
+    rec.step("Diâmetro necessário", "φ = 10 · √(4 · max(As, As,min) / (n · π))", "10 · √(4 · max({}, {}) / ({} · 3.14159))",
+             {{d.as, "cm²"}, {asMin, "cm²"}, {static_cast<double>(d.bars), ""}}, phi, "mm");
     auto chosen = std::find_if(kDiameters.begin(), kDiameters.end(), [&](const auto& c) { return c.first >= phi; });
     checks.warnIf(chosen == kDiameters.end(), kDiameterAbove25);
     if (checks.stopped()) return checks.outcome();
@@ -71,10 +80,16 @@ Outcome writeColumnSteel(CheckSequence& checks, FormState& s, const DesignBoxes&
     s.setText(boxes.diameter, chosen->second);
 
     const double phiMax = 10 * d.bmin / 8;
+    if (rec.on())
+        rec.note(std::to_string(d.bars) + " barras de " + chosen->second + " mm: o menor diâmetro comercial que não é menor que φ.");
+    rec.check("Diâmetro máximo", "φ ≤ φmax = 10 · bmin / 8", "10 · {} / 8", {{d.bmin, "cm"}}, phiMax, "mm",
+              !(phiMax < chosen->first), "NBR-6118:2014, 18.4.2.1");
     checks.warnIf(phiMax < chosen->first, d.tooThick);
     if (checks.stopped()) return checks.outcome();
     const double bar = chosen->first / 10;
     s.setText(boxes.existing, formatResult(d.bars * kBarPi * bar * bar / 4));
+    rec.step("Área de aço existente", "As,ef = n · π · φ² / 4", "{} · 3.14159 · ({})² / 4",
+             {{static_cast<double>(d.bars), ""}, {bar, "cm"}}, d.bars * kBarPi * bar * bar / 4, "cm²", 2);
     return Outcome::done().then(EffectKind::EnableControl, printButton(boxes.key));
 }
 

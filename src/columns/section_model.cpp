@@ -129,20 +129,53 @@ std::string searchStopMessage(SearchStop stop) {
     return "";
 }
 
-DesignRatio designRatio(const SectionModel& model, double nu, double mu) {
-    const double nfyd = model.steel.total * model.fyd;
+DesignRatio designRatio(const SectionModel& model, double nu, double mu, TraceRecorder rec) {
+    const double n = model.steel.total;
+    const double nfyd = n * model.fyd;
     if (mu == 0) {
         // No moment: the section is squashed whole, the steel at eps_c2.
         const double s = BilinearStress(model.es, model.block.epsC2 / 1000, model.fyd);
+        rec.note("μ = 0: compressão uniforme, aço na deformação εc2.");
+        rec.step("Tensão no aço", "σs = min(Es · εc2 / 1000, fyd)", "min({} · {} / 1000, {})",
+                 {{model.es, "kN/cm²"}, {model.block.epsC2, "‰"}, {model.fyd, "kN/cm²"}}, s, "kN/cm²", -1,
+                 "NBR-6118:2014, 17.2.2");
+        rec.step("Taxa mecânica", "ω = (ν − 1) · fyd / σs", "({} − 1) · {} / {}",
+                 {{nu, ""}, {model.fyd, "kN/cm²"}, {s, "kN/cm²"}}, (nu - 1) * model.fyd / s, "");
         return {SearchStop::Converged, (nu - 1) * model.fyd / s};
     }
     NeutralAxis axis = SolveNeutralAxis(model, [&](const SectionForces& f) { return SectionEquation(f, nu, mu); });
+    if (rec.on()) {
+        rec.stage("Linha neutra");
+        if (axis.stop == SearchStop::NoBracket) {
+            rec.note("Nenhum intervalo com troca de sinal foi encontrado até ξ = 1000 · 10^25.");
+        } else {
+            rec.note("Equilíbrio de forças e de momentos com ω eliminado: f(ξ) = 0, ξ = x/h. Intervalo inicial: ξ1 = " +
+                     traceNumber(axis.xi1) + " (f = " + traceNumber(axis.f1) + "), ξ2 = " + traceNumber(axis.xi2) +
+                     " (f = " + traceNumber(axis.f2) + "); falsa posição até |f| ≤ 0.001 (" +
+                     std::to_string(axis.rounds) + " iterações).");
+            rec.check("Raiz", "|f(ξ)| ≤ 0.001", "", {}, std::abs(axis.residual), "",
+                      axis.converged());
+            rec.step("Profundidade relativa da linha neutra", "ξ = x/h", "", {}, axis.forces.xi, "");
+            rec.step("Resultante do concreto", "Rc = Fc / (Ac · σcd)", "", {}, axis.forces.rc, "");
+            rec.step("Soma das tensões nas barras", "S1 = Σ σsi", "", {}, axis.forces.s1, "kN/cm²");
+            rec.step("Soma ponderada pela posição", "S2 = Σ βi · σsi", "", {}, axis.forces.s2, "kN/cm²");
+        }
+    }
     if (!axis.converged()) return {axis.stop, 0};
     const SectionForces& f = axis.forces;
     // Of the two equilibrium equations, the one with the larger steel sum is the
     // better conditioned for omega.
-    if (std::abs(f.s1) < std::abs(f.s2)) return {SearchStop::Converged, nfyd * (0.5 * nu - mu - f.rc * f.bc) / f.s2};
-    return {SearchStop::Converged, nfyd * (nu - f.rc) / f.s1};
+    if (std::abs(f.s1) < std::abs(f.s2)) {
+        const double omega = nfyd * (0.5 * nu - mu - f.rc * f.bc) / f.s2;
+        rec.step("Taxa mecânica (equilíbrio de momentos)", "ω = n · fyd · (0.5 · ν − μ − Rc · βc) / S2",
+                 "{} · {} · (0.5 · {} − {} − {} · {}) / {}",
+                 {{n, ""}, {model.fyd, "kN/cm²"}, {nu, ""}, {mu, ""}, {f.rc, ""}, {f.bc, ""}, {f.s2, "kN/cm²"}}, omega, "");
+        return {SearchStop::Converged, omega};
+    }
+    const double omega = nfyd * (nu - f.rc) / f.s1;
+    rec.step("Taxa mecânica (equilíbrio de forças)", "ω = n · fyd · (ν − Rc) / S1", "{} · {} · ({} − {}) / {}",
+             {{n, ""}, {model.fyd, "kN/cm²"}, {nu, ""}, {f.rc, ""}, {f.s1, "kN/cm²"}}, omega, "");
+    return {SearchStop::Converged, omega};
 }
 
 ResistingMoment resistingMoment(const SectionModel& model, double nu, double nuMax, double omega) {

@@ -8,6 +8,7 @@
 // measured from the most compressed face, and found by false position.
 //
 // Units: kN and cm; stresses in kN/cm2; strains of the block in per mille.
+#include "app/trace.h"
 #include <cmath>
 #include <string>
 #include <vector>
@@ -92,6 +93,8 @@ struct NeutralAxis {
     SearchStop stop = SearchStop::Converged;
     SectionForces forces;  // of the last evaluation
     long rounds = 0;
+    // The bracket the false position started from, and the residual it ended on.
+    double xi1 = 0, xi2 = 0, f1 = 0, f2 = 0, residual = 0;
     bool converged() const { return stop == SearchStop::Converged; }
 };
 
@@ -122,6 +125,10 @@ NeutralAxis SolveNeutralAxis(const SectionModel& model, Equation&& equation) {
         out.forces = model.at(xi2);
         f2 = equation(out.forces);
     }
+    out.xi1 = xi1;
+    out.xi2 = xi2;
+    out.f1 = f1;
+    out.f2 = f2;
     const Root root = falsePosition(
         [&](double xi) {
             out.forces = model.at(xi);
@@ -129,6 +136,7 @@ NeutralAxis SolveNeutralAxis(const SectionModel& model, Equation&& equation) {
         },
         xi1, f1, xi2, f2, FalsePositionRule{});
     out.rounds = root.rounds;
+    out.residual = root.f;
     if (!root.converged()) out.stop = SearchStop::Stalled;
     return out;
 }
@@ -139,7 +147,8 @@ struct DesignRatio {
     SearchStop stop = SearchStop::Converged;
     double omega = 0;
 };
-DesignRatio designRatio(const SectionModel& model, double nu, double mu);
+DesignRatio designRatio(const SectionModel& model, double nu, double mu,
+                        TraceRecorder rec = TraceRecorder(nullptr));
 
 // Verification: the reduced resisting moment under nu for omega, once the caller
 // has made sure nu does not exceed the squash force. The squash force itself gives

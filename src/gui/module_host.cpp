@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QTimer>
+#include <QToolBar>
 
 #include "app/catalogue.h"
 #include "gui/gui_prompter.h"
@@ -9,6 +10,7 @@
 #include "gui/project_dialogs.h"
 #include "gui/save_picture_dialog.h"
 #include "gui/screen_window.h"
+#include "gui/steps_window.h"
 #include "gui/window_places.h"
 
 namespace morve {
@@ -20,7 +22,9 @@ std::string screenOf(const std::string& qualifiedName) { return qualifiedName.su
 }  // namespace
 
 ModuleHost::ModuleHost(const Module& module, const StartDefaults& defaults, Shell& shell)
-    : module_(module), shell_(shell), session_(module, defaults), screens_(module.screens()) {}
+    : module_(module), shell_(shell), session_(module, defaults), screens_(module.screens()) {
+    session_.recordSteps(true);
+}
 
 ModuleHost::~ModuleHost() {
     for (auto& [name, w] : windows_) {
@@ -50,6 +54,9 @@ ScreenWindow* ModuleHost::ensureWindow(const std::string& screen) {
         press(screen, screen == session_.info().key ? command : screen + "." + command);
     };
     w->onToolbar = [this, screen](const std::string& key) { toolbar(screen, key); };
+    if (screen == session_.info().key && decl->toolbar)
+        addStepsButton(w->findChild<QToolBar*>(QStringLiteral("Toolbar1")), w,
+                       [this]() -> const Trace& { return session_.steps(); });
     if (screen == session_.info().key)
         w->onClose = [this] { shell_.returnToMenu(); };
     else
@@ -112,6 +119,9 @@ Outcome ModuleHost::press(const std::string& screen, const std::string& command)
     Outcome outcome = session_.press(command, prompter);
     if (!status.empty()) showStatus(status, false);
     for (auto& [name, w] : windows_) refresh(w);
+    // An open "Passo a passo" follows the calculation just made.
+    if (ScreenWindow* main = mainWindow())
+        if (StepsWindow* steps = main->findChild<StepsWindow*>(); steps && steps->isVisible()) steps->showTrace(session_.steps());
     applyScreenEffects(outcome, window(screen));
     if (!outcome.focus.empty()) {
         if (ScreenWindow* w = window(screenOf(outcome.focus)); w && w->isVisible()) {

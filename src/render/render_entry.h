@@ -17,6 +17,8 @@
 //                                        pixels on white; by the extension of path:
 //                                        .gif (giflib), .svg (vectors), or any
 //                                        raster format Qt writes (.png, .jpg, .bmp)
+//   htmlPdf(html, path)                  a self-contained HTML page (the steps of a
+//                                        calculation) laid out on A4 pages as PDF
 //
 // A new output that needs Qt adds an entry point at the end of the table and raises
 // kRenderInterface; outputs that need no Qt (text, spreadsheets, DXF) stay in the
@@ -32,7 +34,7 @@
 
 namespace morve {
 
-inline constexpr int kRenderInterface = 1;
+inline constexpr int kRenderInterface = 2;
 
 // Changes whenever a type that crosses the boundary changes size.
 inline constexpr std::size_t kRenderLayout =
@@ -43,6 +45,7 @@ struct RenderEntryPoints {
     std::size_t layout = kRenderLayout;
     std::string (*reportPdf)(const std::vector<ReportPage>& pages, const std::string& path) = nullptr;
     std::string (*picture)(const Drawing& drawing, const std::string& path, int width, int height) = nullptr;
+    std::string (*htmlPdf)(const std::string& html, const std::string& path) = nullptr;
 };
 
 }  // namespace morve

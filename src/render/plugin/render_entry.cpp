@@ -7,6 +7,7 @@
 #include "render/drawing_export.h"
 #include "render/offscreen.h"
 #include "render/page_painter.h"
+#include "render/trace_pdf.h"
 
 namespace {
 
@@ -20,9 +21,14 @@ std::string picture(const morve::Drawing& drawing, const std::string& path, int 
     return morve::exportDrawing(drawing, QString::fromStdString(path), QSize(width, height));
 }
 
+std::string htmlPdf(const std::string& html, const std::string& path) {
+    morve::ensurePaintingApplication();
+    return morve::writeHtmlPdf(html, QString::fromStdString(path));
+}
+
 }  // namespace
 
 extern "C" __attribute__((visibility("default"))) const morve::RenderEntryPoints* morve_render_entry_points() {
-    static const morve::RenderEntryPoints entries{morve::kRenderInterface, morve::kRenderLayout, reportPdf, picture};
+    static const morve::RenderEntryPoints entries{morve::kRenderInterface, morve::kRenderLayout, reportPdf, picture, htmlPdf};
     return &entries;
 }
