@@ -29,6 +29,7 @@ struct GridDecl {
     int maxRows = 0;                  // the module's own limit, 0 for none
     KeyFilter filter = KeyFilter::PositiveNumber;
     bool firstColumnLocked = true;    // column 0 numbers the rows
+    bool results = false;             // filled by a calculation, not typed
 };
 
 struct ControlDecl {

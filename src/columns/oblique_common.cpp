@@ -245,7 +245,6 @@ ModuleInfo PolygonSectionModule::info() const {
     i.unloads.insert(i.unloads.end(), {"FormAjuda", "FormAbrir", "FormSalvar"});
     i.printKey = tables_.module;
     i.calculate = "Command4";
-    i.files = true;
     return i;
 }
 

@@ -186,7 +186,6 @@ ModuleInfo Form32::info() const {
     i.unloads = {"FormAjuda", "FormAbrir", "FormSalvar", "Form32b", "Form32c"};
     i.printKey = "Form32";
     i.calculate = "Command3";
-    i.files = true;
     return i;
 }
 

@@ -239,9 +239,9 @@ void ModuleHost::toolbar(const std::string& screen, const std::string& key) {
         shell_.showModuleHelp(helpPage());
     } else if (key == "Sair") {
         shell_.askExit();
-    } else if (key == "Abrir" && session_.info().files) {
+    } else if (key == "Abrir") {
         openProjectFromDialog(*this, w);
-    } else if (key == "Salvar" && session_.info().files) {
+    } else if (key == "Salvar") {
         saveProjectFromDialog(*this, w);
     }
 }

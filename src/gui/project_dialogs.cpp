@@ -120,7 +120,7 @@ bool startWithProject(MorveApp& app, const QString& path) {
     }
     const std::string key = projectFileTag(file);
     const Module* module = ModuleRegistry::find(key);
-    if (!module || !module->info().files) {
+    if (!module) {
         guiPrompter().warn("O arquivo " + path.toStdString() + " não é um arquivo de projeto do MORVE.");
         return false;
     }

@@ -13,6 +13,7 @@
 #include <unistd.h>
 
 #include "app/module.h"
+#include "app/outcome.h"
 
 namespace morve {
 
@@ -328,6 +329,26 @@ mode_t modeFor(const std::string& path) {
     return 0666 & ~mask;
 }
 
+// The results on screen belong to the case before the file: a report printed now
+// would set them beside the new inputs. Result boxes and tables the file does not
+// keep are emptied (a table keeps its row names), and "Imprimir" waits for the
+// next "CALCULAR".
+void blankResults(const Module& module, FormState& state) {
+    const std::vector<std::string> kept = module.projectFields();
+    for (const ScreenDecl& screen : state.screens()) {
+        for (const ControlDecl& c : screen.controls) {
+            const std::string name = screen.name + "." + c.name;
+            if (std::find(kept.begin(), kept.end(), name) != kept.end()) continue;
+            if (c.kind == ControlKind::ResultBox) state.setText(name, "");
+            if (c.kind != ControlKind::Grid) continue;
+            GridRows& rows = state.grid(name);
+            for (std::size_t r = 1; r < rows.size(); ++r)
+                for (std::size_t k = 1; k < rows[r].size(); ++k) rows[r][k].clear();
+        }
+    }
+    state.setEnabled(printButton(module.info().key), false);
+}
+
 }  // namespace
 
 std::string writeProjectText(const Module& module, const FormState& state) {
@@ -374,6 +395,7 @@ ProjectResult readProjectText(const Module& module, const std::string& text, For
     }
     if (parsed.unfinished) return {reader.incomplete() + kKept};
     if (std::string rest = reader.rest(); !rest.empty()) return {rest + kKept};
+    blankResults(module, copy);
     state = std::move(copy);
     return {};
 }

@@ -29,7 +29,8 @@ struct ProjectResult {
 // The text of the project file of a module's current inputs.
 std::string writeProjectText(const Module& module, const FormState& state);
 // Reads a project file's text into the module's state; a refused text leaves the
-// state exactly as it was.
+// state exactly as it was. A read file blanks the results of the case before it
+// and disables "Imprimir" until the next calculation.
 ProjectResult readProjectText(const Module& module, const std::string& text, FormState& state);
 
 // Saving writes a temporary file beside the target and renames it over the target,

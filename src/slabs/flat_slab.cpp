@@ -244,7 +244,6 @@ ModuleInfo Form40::info() const {
     i.unloads = {"Form40d", "Form40c", "Form40b", "FormAjuda", "FormAbrir", "FormSalvar"};
     i.printKey = "Form40";
     i.calculate = "Command3";
-    i.files = true;
     i.busy = {{"Form40.Command3", "Form40.Command13"}};
     return i;
 }

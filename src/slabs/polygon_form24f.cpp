@@ -285,7 +285,6 @@ public:
         i.key = "Form24f";
         i.unloads = {"Form24h", "FormAjuda", "FormAbrir", "FormSalvar", "Form24g", "Form24j"};
         i.printKey = "Form24f";
-        i.files = true;
         // Both the mesh and the grillage of a fine mesh take a while.
         i.busy = {{"Form24f.Command7", "Form24f.Command13"}, {"Form24f.Command1", "Form24f.Command13"}};
         return i;
