@@ -61,16 +61,6 @@ void checkVertexCount(CheckSequence& checks, double n) {
     checks.warnIf(n < 3, kFewVertices, "Text6").warnIf(n >= 30, kManyVertices, "Text6");
 }
 
-void sizeTable(FormState& s, const std::string& grid, int rows) {
-    GridRows& g = s.grid(grid);
-    const std::size_t columns = s.declaration(grid)->grid.header.size();
-    if (g.empty()) g.push_back(s.declaration(grid)->grid.header);
-    g.resize(static_cast<std::size_t>(rows) + 1, std::vector<std::string>(columns, ""));
-    for (std::size_t r = 1; r < g.size(); ++r) {
-        g[r].resize(columns, "");
-        g[r][0] = std::to_string(r);
-    }
-}
 
 void cutCells(FormState& s, const std::string& grid) {
     for (auto& row : s.grid(grid))
@@ -92,8 +82,8 @@ Outcome enterVertices(FormState& s, Prompter& prompter) {
     const double n = vertexCount(s);
     checkVertexCount(checks, n);
     if (checks.stopped()) return checks.outcome();
-    sizeTable(s, kVertices, static_cast<int>(n));
-    sizeTable(s, kSides, static_cast<int>(n));
+    s.resizeGrid(kVertices, static_cast<std::size_t>(n));
+    s.resizeGrid(kSides, static_cast<std::size_t>(n));
     return dropMesh(Outcome::done()).then(EffectKind::ShowScreen, "Form24g");
 }
 

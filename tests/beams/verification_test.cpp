@@ -104,7 +104,7 @@ TEST(Form11Verification, SmallSteelKeepsTheBlockInTheFlange) {
     EXPECT_NEAR(t.number("Text9"), 89.24, 0.03);
 }
 
-TEST(LayerGrid, OpensWithNPlusOneRowsAndKeepsThemWhenNStays) {
+TEST(LayerGrid, OpensWithNPlusOneRowsAndKeepsTheTypedOnes) {
     BeamRun v("Form9");
     v.set({{"Text6", "3"}});
     Outcome o = v.press("Command3");
@@ -122,7 +122,7 @@ TEST(LayerGrid, OpensWithNPlusOneRowsAndKeepsThemWhenNStays) {
     v.press("Form9b.Command2");
     v.set({{"Text6", "2"}}).press("Command3");
     EXPECT_EQ(v.session.state().grid("Form9b.Grade1").size(), 3u);
-    EXPECT_EQ(v.session.state().cell("Form9b.Grade1", 1, 1), "");
+    EXPECT_EQ(v.session.state().cell("Form9b.Grade1", 1, 1), "1234567890") << "a new count keeps the layers typed";
 
     for (auto [n, message] : {std::pair{"0", "Entre com um valor positivo para n"},
                               std::pair{"301", "Este programa está limitado a 300 camadas de armadura."}}) {
