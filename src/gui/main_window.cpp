@@ -11,6 +11,7 @@
 
 #include "app/module.h"
 #include "gui/keyboard.h"
+#include "gui/recent_files.h"
 
 namespace morve {
 
@@ -103,6 +104,11 @@ MainWindow::MainWindow() {
             if (onModule) onModule(module);
         });
     }
+    QMenu* recent = menuBar()->addMenu(QStringLiteral("Arquivos recentes"));
+    recent->setObjectName(QStringLiteral("recentes"));
+    fillRecentMenu(recent, [this](const QString& path) {
+        if (onRecentFile) onRecentFile(path);
+    });
     QMenu* help = menuBar()->addMenu(QString::fromStdString(ModuleCatalogue::menuCaption("ajuda")));
     help->setObjectName(QStringLiteral("ajuda"));
     for (const HelpMenuEntry& entry : ModuleCatalogue::helpMenu()) {

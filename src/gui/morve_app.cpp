@@ -7,6 +7,7 @@
 #include "gui/gui_prompter.h"
 #include "gui/help_windows.h"
 #include "gui/main_window.h"
+#include "gui/recent_files.h"
 #include "gui/report_panel.h"
 #include "gui/screen_window.h"
 #include "gui/start_windows.h"
@@ -27,6 +28,7 @@ MorveApp::MorveApp(AppOptions options) : options_(options) {
     menu_->onModule = [this](const std::string& key) { openModule(key); };
     menu_->onHelp = [this](const HelpMenuEntry& entry) { helpMenu(entry); };
     menu_->onClose = [this] { shutdown(); };
+    menu_->onRecentFile = [this](const QString& path) { openRecentFile(*this, path); };
     backdrop_ = new Backdrop();
     tip_ = new TipWindow();
     ajuda_ = new HelpPageWindow("FormAjuda");

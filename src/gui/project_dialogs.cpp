@@ -10,6 +10,7 @@
 #include "gui/gui_prompter.h"
 #include "gui/module_host.h"
 #include "gui/morve_app.h"
+#include "gui/recent_files.h"
 #include "reports/project_file.h"
 
 namespace morve {
@@ -72,6 +73,7 @@ bool openProjectInto(ModuleHost& host, const std::string& path) {
         return false;
     }
     host.refreshWindows();
+    noteRecentFile(QFile::decodeName(path.c_str()));
     return true;
 }
 
@@ -79,8 +81,12 @@ bool saveProjectFrom(ModuleHost& host, const std::string& path) {
     // The file keeps what the boxes show, typed since the last command or not.
     host.storeWindows();
     const ProjectResult r = saveProjectFile(host.session().module(), host.session().state(), path);
-    if (!r.ok()) guiPrompter().warn(r.message);
-    return r.ok();
+    if (!r.ok()) {
+        guiPrompter().warn(r.message);
+        return false;
+    }
+    noteRecentFile(QFile::decodeName(path.c_str()));
+    return true;
 }
 
 void openProjectFromDialog(ModuleHost& host, QWidget* parent) {
