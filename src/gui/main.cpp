@@ -13,6 +13,7 @@
 #include "gui/morve_app.h"
 #include "gui/project_dialogs.h"
 #include "gui/qt_texts.h"
+#include "gui/recovery_keeper.h"
 #include "gui/screenshots.h"
 
 namespace {
@@ -56,7 +57,8 @@ int main(int argc, char** argv) {
 
     if (startupTime) options.splash = false;
     morve::MorveApp app(options);
-    if (project.isEmpty() || !morve::startWithProject(app, project)) app.start();
+    // Data a crash left behind come first: a new session would write over them.
+    if (!morve::offerRecovery(app) && (project.isEmpty() || !morve::startWithProject(app, project))) app.start();
     if (startupTime) {
         // Time from the start of the process to the menu painted.
         QTimer::singleShot(0, [&] {

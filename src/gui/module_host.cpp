@@ -103,6 +103,8 @@ void ModuleHost::unloadAll() {
 
 Outcome ModuleHost::press(const std::string& screen, const std::string& command) {
     for (auto& [name, w] : windows_) w->storeTo(session_.state());
+    if (onCalculate && session_.state().qualify(command) == session_.state().qualify(session_.info().calculate))
+        onCalculate();
     // Before any box the windows show what the calculation has written so far.
     SyncingPrompter prompter(guiPrompter(), [this] {
         for (auto& [name, w] : windows_) w->loadFrom(session_.state());
@@ -248,6 +250,10 @@ void ModuleHost::toolbar(const std::string& screen, const std::string& key) {
 
 void ModuleHost::storeWindows() {
     for (auto& [name, w] : windows_) w->storeTo(session_.state());
+}
+
+void ModuleHost::storeWindowsTo(FormState& state) const {
+    for (const auto& [name, w] : windows_) w->storeTo(state);
 }
 
 void ModuleHost::refreshWindows() {

@@ -8,10 +8,12 @@
 #include "gui/help_windows.h"
 #include "gui/main_window.h"
 #include "gui/recent_files.h"
+#include "gui/recovery_keeper.h"
 #include "gui/report_panel.h"
 #include "gui/screen_window.h"
 #include "gui/start_windows.h"
 #include "gui/window_places.h"
+#include "reports/recovery_file.h"
 
 namespace morve {
 
@@ -126,6 +128,7 @@ void MorveApp::openModule(const std::string& key) {
     host_ = std::unique_ptr<ModuleHost, void (*)(ModuleHost*)>(new ModuleHost(*module, defaults_, *this),
                                                                deleteHostLater);
     host_->open();
+    new RecoveryKeeper(*host_);
     menu_->hide();
 }
 
@@ -140,6 +143,8 @@ void MorveApp::closeModule() {
         report_->close();
     }
     closeModuleHelp();
+    // A module closed as the user closes it leaves nothing to recover.
+    if (host_) removeRecoveryFile();
     if (host_) host_->unloadAll();
     host_.reset();
 }
