@@ -11,6 +11,7 @@
 #include "cli/case_runner.h"
 #include "cli/project_case.h"
 #include "cli/report_file.h"
+#include "export/workbook.h"
 
 namespace {
 
@@ -18,6 +19,7 @@ const char* kUsage =
     "uso: morve-calc CASO.json\n"
     "     morve-calc --report SAIDA.pdf|SAIDA.txt [--key CHAVE] [--title TITULO] CASO.json\n"
     "     morve-calc --save SAIDA.mor CASO.json\n"
+    "     morve-calc --xlsx SAIDA.xlsx CASO.json\n"
     "     morve-calc --picture Form40d.Picture1 SAIDA.gif|SAIDA.png|SAIDA.svg CASO.json\n"
     "     morve-calc --list\n";
 
@@ -36,7 +38,7 @@ int listModules() {
 }  // namespace
 
 int main(int argc, char** argv) {
-    std::string casePath, reportPath, savePath, key, title, picture, picturePath;
+    std::string casePath, reportPath, savePath, xlsxPath, key, title, picture, picturePath;
     for (int i = 1; i < argc; ++i) {
         std::string a = argv[i];
         auto value = [&](const char* what) -> std::string {
@@ -53,6 +55,7 @@ int main(int argc, char** argv) {
         }
         if (a == "--report") reportPath = value("--report");
         else if (a == "--save") savePath = value("--save");
+        else if (a == "--xlsx") xlsxPath = value("--xlsx");
         else if (a == "--key") key = value("--key");
         else if (a == "--picture") {
             picture = value("--picture");
@@ -80,6 +83,14 @@ int main(int argc, char** argv) {
         morve::resolveCaseProject(caseFile, casePath);
         morve::CaseRun run = morve::runCase(caseFile);
         if (!savePath.empty()) morve::saveCaseProject(*run.session, savePath);
+        if (!xlsxPath.empty()) {
+            if (std::string error = morve::writeWorkbook(morve::resultSheets(run.session->state()), xlsxPath);
+                !error.empty()) {
+                std::cerr << "morve-calc: " << error << "\n";
+                return 2;
+            }
+            return 0;
+        }
         if (!picture.empty()) {
             std::string error = morve::writePictureFile(*run.session, picture, picturePath);
             if (!error.empty()) {
