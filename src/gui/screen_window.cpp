@@ -21,6 +21,7 @@
 #include <set>
 
 #include "gui/grid_editing.h"
+#include "gui/grid_export.h"
 #include "gui/key_filter_guard.h"
 #include "gui/keyboard.h"
 #include "gui/picture_views.h"
@@ -277,6 +278,7 @@ ScreenWindow::ControlParts ScreenWindow::makeControl(const ControlDecl& c, const
             table->setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::DoubleClicked |
                                    QAbstractItemView::EditKeyPressed | QAbstractItemView::SelectedClicked);
             makeSpreadsheet(table, c);
+            offerSpreadsheetExport(table, q(decl_.name + "." + c.name));
             table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
             table->setMinimumHeight(kGridMinimumHeight);
             parts.widget = table;
