@@ -20,7 +20,7 @@ const char* kUsage =
     "     morve-calc --report SAIDA.pdf|SAIDA.txt [--key CHAVE] [--title TITULO] CASO.json\n"
     "     morve-calc --save SAIDA.mor CASO.json\n"
     "     morve-calc --xlsx SAIDA.xlsx CASO.json\n"
-    "     morve-calc --picture Form40d.Picture1 SAIDA.gif|SAIDA.png|SAIDA.svg CASO.json\n"
+    "     morve-calc --picture Form40d.Picture1 SAIDA.gif|SAIDA.png|SAIDA.svg|SAIDA.dxf CASO.json\n"
     "     morve-calc --list\n";
 
 int listModules() {
