@@ -144,7 +144,10 @@ void MorveApp::closeModule() {
     }
     closeModuleHelp();
     // A module closed as the user closes it leaves nothing to recover.
-    if (host_) removeRecoveryFile();
+    if (host_) {
+        RecoveryKeeper::finish();
+        removeRecoveryFile();
+    }
     if (host_) host_->unloadAll();
     host_.reset();
 }

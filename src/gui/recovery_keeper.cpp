@@ -1,5 +1,7 @@
 #include "gui/recovery_keeper.h"
 
+#include <QThreadPool>
+
 #include "gui/gui_prompter.h"
 #include "gui/module_host.h"
 #include "gui/morve_app.h"
@@ -9,6 +11,15 @@
 namespace morve {
 
 namespace {
+
+QThreadPool& writer() {
+    static QThreadPool* pool = [] {
+        auto* p = new QThreadPool();
+        p->setMaxThreadCount(1);
+        return p;
+    }();
+    return *pool;
+}
 
 int& interval() {
     static int ms = 10000;
@@ -23,7 +34,11 @@ RecoveryKeeper::RecoveryKeeper(ModuleHost& host) : QObject(&host), host_(host) {
     timer_.setInterval(interval());
     connect(&timer_, &QTimer::timeout, this, &RecoveryKeeper::keep);
     timer_.start();
-    host_.onCalculate = [this] { keep(); };
+    // A calculation is what might crash: its data are on disk before it starts.
+    host_.onCalculate = [this] {
+        keep();
+        finish();
+    };
 }
 
 void RecoveryKeeper::keep() {
@@ -33,10 +48,17 @@ void RecoveryKeeper::keep() {
     host_.storeWindowsTo(typed);
     std::string text = writeProjectText(host_.session().module(), typed);
     if (text == written_) return;
-    // A failed write (a full disk) is tried again at the next check; the user is
-    // not interrupted for a file they did not ask for.
-    if (writeRecoveryFile(host_.session().module(), typed).ok()) written_ = std::move(text);
+    written_ = text;
+    // The write waits for the disk (the file is synced, or a power cut could lose
+    // it), so it goes to a thread of its own, one write after another in order;
+    // typing never waits for it. A failed write (a full disk) is not shown: the
+    // user did not ask for this file, and the next change tries again.
+    writer().start([text = std::move(text), this] {
+        if (!writeRecoveryFile(text).ok()) QMetaObject::invokeMethod(this, [this] { written_.clear(); });
+    });
 }
+
+void RecoveryKeeper::finish() { writer().waitForDone(); }
 
 bool offerRecovery(MorveApp& app) {
     if (!recoveryFileExists()) return false;

@@ -20,6 +20,9 @@ public:
     // Writes what the windows show now, if it is not what was written last.
     void keep();
 
+    // Waits for the writes under way, before the file is deleted or read.
+    static void finish();
+
     // The period of the check for changes, 10 s; tests shorten it.
     static void setInterval(int ms);
 

@@ -401,7 +401,10 @@ ProjectResult readProjectText(const Module& module, const std::string& text, For
 }
 
 ProjectResult saveProjectFile(const Module& module, const FormState& state, const std::string& path) {
-    const std::string text = writeProjectText(module, state);
+    return saveProjectText(writeProjectText(module, state), path);
+}
+
+ProjectResult saveProjectText(const std::string& text, const std::string& path) {
     const std::filesystem::path target(path);
     const std::filesystem::path folder = target.has_parent_path() ? target.parent_path() : ".";
     // Hidden, beside the target: the rename stays within one file system.

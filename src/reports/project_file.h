@@ -36,6 +36,8 @@ ProjectResult readProjectText(const Module& module, const std::string& text, For
 // Saving writes a temporary file beside the target and renames it over the target,
 // so an interrupted save never leaves half a project under the user's name.
 ProjectResult saveProjectFile(const Module& module, const FormState& state, const std::string& path);
+// The same for a text already written, so that the writing can go to another thread.
+ProjectResult saveProjectText(const std::string& text, const std::string& path);
 ProjectResult openProjectFile(const Module& module, const std::string& path, FormState& state);
 
 // The module tag a file starts with ("" when it has none): which module opens it.

@@ -25,10 +25,10 @@ bool recoveryFileExists() {
     return std::filesystem::is_regular_file(recoveryFilePath(), error);
 }
 
-ProjectResult writeRecoveryFile(const Module& module, const FormState& state) {
+ProjectResult writeRecoveryFile(const std::string& text) {
     std::error_code error;
     std::filesystem::create_directories(stateFolder(), error);
-    return saveProjectFile(module, state, recoveryFilePath());
+    return saveProjectText(text, recoveryFilePath());
 }
 
 void removeRecoveryFile() {

@@ -13,8 +13,8 @@ namespace morve {
 // $XDG_STATE_HOME/morve/recuperacao.mor, else ~/.local/state/morve/recuperacao.mor.
 std::string recoveryFilePath();
 bool recoveryFileExists();
-// Creates the folder when it is missing.
-ProjectResult writeRecoveryFile(const Module& module, const FormState& state);
+// Creates the folder when it is missing. The text is a project file's.
+ProjectResult writeRecoveryFile(const std::string& text);
 void removeRecoveryFile();
 
 }  // namespace morve

@@ -110,7 +110,7 @@ private slots:
 
     void noDeletesTheFileAndADamagedOneIsRefused() {
         const Module& module = *ModuleRegistry::find(kModule);
-        QVERIFY(writeRecoveryFile(module, ModuleSession(module, {}).state()).ok());
+        QVERIFY(writeRecoveryFile(writeProjectText(module, ModuleSession(module, {}).state())).ok());
         ScriptedPrompter no({"no"});
         setGuiPrompter(&no);
         MorveApp first(quickOptions());
