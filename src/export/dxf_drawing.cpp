@@ -1,14 +1,12 @@
 #include "export/dxf_drawing.h"
 
-#include <cerrno>
 #include <cstdio>
-#include <cstring>
-#include <filesystem>
+#include <fstream>
 #include <memory>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <dxflib/dl_dxf.h>
+
+#include "reports/atomic_file.h"
 
 namespace morve {
 
@@ -136,39 +134,23 @@ const char* dxfLayer(ShapeKind kind) {
 }
 
 std::string writeDxf(const Drawing& drawing, const std::string& path) {
-    const auto failed = [&](const std::string& why) { return "Não foi possível salvar o desenho " + path + ": " + why + "."; };
-    const std::filesystem::path target(path);
-    const std::filesystem::path folder = target.has_parent_path() ? target.parent_path() : ".";
-    std::string temporary = (folder / ("." + target.filename().string() + ".XXXXXX")).string();
-    const int fd = ::mkstemp(temporary.data());
-    if (fd < 0) return failed(errno == ENOENT ? "a pasta não existe" : std::strerror(errno));
-    ::close(fd);
-    {
+    const std::string failed = replaceFileBy(path, [&](const std::string& temporary) {
         DL_Dxf dxf;
         std::unique_ptr<DL_WriterA> w(dxf.out(temporary.c_str(), DL_Codes::AC1015));
-        if (!w) {
-            ::unlink(temporary.c_str());
-            return failed("o arquivo não pôde ser criado");
-        }
+        if (!w) return false;
         writeFile(drawing, *w);
         w->close();
-    }
-    // A full disk shows as a file shorter than what was written: the stream keeps no
-    // error of its own that dxflib passes on, so the end of the file is checked.
-    struct stat st {};
-    if (::stat(temporary.c_str(), &st) != 0 || st.st_size < 20) {
-        ::unlink(temporary.c_str());
-        return failed("o disco está cheio ou não aceita a escrita");
-    }
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    ::chmod(temporary.c_str(), 0666 & ~mask);
-    if (std::rename(temporary.c_str(), path.c_str()) != 0) {
-        const int error = errno;
-        ::unlink(temporary.c_str());
-        return failed(std::strerror(error));
-    }
-    return "";
+        // dxflib passes on no error of its stream: a file cut short by a full disk
+        // is told by its missing end.
+        std::ifstream written(temporary, std::ios::binary | std::ios::ate);
+        const auto size = static_cast<long long>(written.tellg());
+        if (size < 4) return false;
+        written.seekg(size - 4);
+        std::string end(4, '\0');
+        written.read(end.data(), 4);
+        return end.find("EOF") != std::string::npos;
+    });
+    return failed.empty() ? "" : "Não foi possível salvar o desenho " + path + ": " + failed + ".";
 }
 
 }  // namespace morve

@@ -1,15 +1,12 @@
 #include "export/workbook.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cmath>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <filesystem>
-#include <sys/stat.h>
-#include <unistd.h>
 #include <xlsxwriter.h>
+
+#include "reports/atomic_file.h"
 
 namespace morve {
 
@@ -34,10 +31,6 @@ std::string sheetName(std::string name, const std::vector<std::string>& taken) {
         unique = name.substr(0, kSheetNameLimit - suffix.size()) + suffix;
     }
     return unique;
-}
-
-std::string failure(const std::string& path, const std::string& why) {
-    return "Não foi possível salvar a planilha " + path + ": " + why + ".";
 }
 
 }  // namespace
@@ -70,52 +63,31 @@ std::vector<Sheet> resultSheets(const FormState& state) {
 }
 
 std::string writeWorkbook(const std::vector<Sheet>& sheets, const std::string& path) {
-    const std::filesystem::path target(path);
-    const std::filesystem::path folder = target.has_parent_path() ? target.parent_path() : ".";
-    std::string temporary = (folder / ("." + target.filename().string() + ".XXXXXX")).string();
-    const int fd = ::mkstemp(temporary.data());
-    if (fd < 0) return failure(path, errno == ENOENT ? "a pasta não existe" : std::strerror(errno));
-    ::close(fd);
-    lxw_workbook* book = workbook_new(temporary.c_str());
-    if (!book) {
-        ::unlink(temporary.c_str());
-        return failure(path, "o arquivo não pôde ser criado");
-    }
-    lxw_format* header = workbook_add_format(book);
-    format_set_bold(header);
-    std::vector<std::string> taken;
-    for (const Sheet& sheet : sheets) {
-        taken.push_back(sheetName(sheet.name, taken));
-        lxw_worksheet* ws = workbook_add_worksheet(book, taken.back().c_str());
-        for (std::size_t r = 0; r < sheet.rows.size(); ++r) {
-            for (std::size_t k = 0; k < sheet.rows[r].size(); ++k) {
-                const auto row = static_cast<lxw_row_t>(r);
-                const auto col = static_cast<lxw_col_t>(k);
-                const std::string& text = sheet.rows[r][k];
-                double v = 0;
-                if (r > 0 && cellNumber(text, v))
-                    worksheet_write_number(ws, row, col, v, nullptr);
-                else if (!text.empty())
-                    worksheet_write_string(ws, row, col, text.c_str(), r == 0 ? header : nullptr);
+    const std::string failed = replaceFileBy(path, [&](const std::string& temporary) {
+        lxw_workbook* book = workbook_new(temporary.c_str());
+        if (!book) return false;
+        lxw_format* header = workbook_add_format(book);
+        format_set_bold(header);
+        std::vector<std::string> taken;
+        for (const Sheet& sheet : sheets) {
+            taken.push_back(sheetName(sheet.name, taken));
+            lxw_worksheet* ws = workbook_add_worksheet(book, taken.back().c_str());
+            for (std::size_t r = 0; r < sheet.rows.size(); ++r) {
+                for (std::size_t k = 0; k < sheet.rows[r].size(); ++k) {
+                    const auto row = static_cast<lxw_row_t>(r);
+                    const auto col = static_cast<lxw_col_t>(k);
+                    const std::string& text = sheet.rows[r][k];
+                    double v = 0;
+                    if (r > 0 && cellNumber(text, v))
+                        worksheet_write_number(ws, row, col, v, nullptr);
+                    else if (!text.empty())
+                        worksheet_write_string(ws, row, col, text.c_str(), r == 0 ? header : nullptr);
+                }
             }
         }
-    }
-    const lxw_error closed = workbook_close(book);
-    if (closed != LXW_NO_ERROR) {
-        ::unlink(temporary.c_str());
-        return failure(path, closed == LXW_ERROR_CREATING_XLSX_FILE ? "sem permissão de escrita ou disco cheio"
-                                                                    : lxw_strerror(closed));
-    }
-    // The new file keeps the permissions a new file of the user gets.
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    ::chmod(temporary.c_str(), 0666 & ~mask);
-    if (std::rename(temporary.c_str(), path.c_str()) != 0) {
-        const int error = errno;
-        ::unlink(temporary.c_str());
-        return failure(path, std::strerror(error));
-    }
-    return "";
+        return workbook_close(book) == LXW_NO_ERROR;
+    });
+    return failed.empty() ? "" : "Não foi possível salvar a planilha " + path + ": " + failed + ".";
 }
 
 }  // namespace morve

@@ -14,6 +14,7 @@
 
 #include "app/module.h"
 #include "app/outcome.h"
+#include "reports/atomic_file.h"
 
 namespace morve {
 
@@ -285,18 +286,6 @@ private:
 
 // ---- the file system ----
 
-std::string reasonOf(int error) {
-    switch (error) {
-        case EACCES:
-        case EPERM: return "sem permissão de escrita";
-        case ENOENT:
-        case ENOTDIR: return "a pasta não existe";
-        case ENOSPC: return "o disco está cheio";
-        case EROFS: return "o disco é somente de leitura";
-        default: return std::strerror(error);
-    }
-}
-
 bool readWholeFile(const std::string& path, std::string& text) {
     std::ifstream in(path, std::ios::binary);
     if (!in) return false;
@@ -304,29 +293,6 @@ bool readWholeFile(const std::string& path, std::string& text) {
     in.read(text.data(), kLargestFile + 1);
     text.resize(static_cast<std::size_t>(in.gcount()));
     return !in.bad();
-}
-
-bool writeAll(int fd, const std::string& text) {
-    std::size_t done = 0;
-    while (done < text.size()) {
-        const ssize_t n = ::write(fd, text.data() + done, text.size() - done);
-        if (n < 0) {
-            if (errno == EINTR) continue;
-            return false;
-        }
-        done += static_cast<std::size_t>(n);
-    }
-    return true;
-}
-
-// A new file gets the permissions any program of the user would give it; a file
-// saved over keeps its own.
-mode_t modeFor(const std::string& path) {
-    struct stat st {};
-    if (::stat(path.c_str(), &st) == 0) return st.st_mode & 07777;
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    return 0666 & ~mask;
 }
 
 // The results on screen belong to the case before the file: a report printed now
@@ -405,29 +371,9 @@ ProjectResult saveProjectFile(const Module& module, const FormState& state, cons
 }
 
 ProjectResult saveProjectText(const std::string& text, const std::string& path) {
-    const std::filesystem::path target(path);
-    const std::filesystem::path folder = target.has_parent_path() ? target.parent_path() : ".";
-    // Hidden, beside the target: the rename stays within one file system.
-    std::string leaf = target.filename().string();
-    leaf.insert(0, 1, '.');
-    std::string temporary = (folder / (leaf + ".XXXXXX")).string();
-    const auto failed = [&](int error) {
-        return ProjectResult{"Não foi possível salvar o arquivo " + path + ": " + reasonOf(error) + "."};
-    };
-    const int fd = ::mkstemp(temporary.data());
-    if (fd < 0) return failed(errno);
-    const bool written = writeAll(fd, text) && ::fchmod(fd, modeFor(path)) == 0 && ::fsync(fd) == 0;
-    const int writeError = errno;
-    if (::close(fd) != 0 || !written) {
-        ::unlink(temporary.c_str());
-        return failed(written ? errno : writeError);
-    }
-    if (::rename(temporary.c_str(), path.c_str()) != 0) {
-        const int error = errno;
-        ::unlink(temporary.c_str());
-        return failed(error);
-    }
-    return {};
+    const std::string failed = replaceFileWithText(path, text);
+    if (failed.empty()) return {};
+    return {"Não foi possível salvar o arquivo " + path + ": " + failed + "."};
 }
 
 ProjectResult openProjectFile(const Module& module, const std::string& path, FormState& state) {
