@@ -5,9 +5,9 @@
 BUILD   ?= build
 CMAKE_FLAGS ?= -DCMAKE_BUILD_TYPE=Release
 PACKAGES := g++ cmake ninja-build qt6-base-dev qt6-charts-dev qt6-svg-dev libqt6opengl6-dev \
-            libgif-dev nlohmann-json3-dev libgtest-dev libbenchmark-dev liblapack-dev xvfb xauth poppler-utils \
+            libgif-dev nlohmann-json3-dev libgtest-dev libbenchmark-dev liblapack-dev libopenblas-dev xvfb xauth poppler-utils \
             qt6-translations-l10n \
-            dpkg-dev desktop-file-utils appstream shared-mime-info librsvg2-bin groff-base file \
+            dpkg-dev desktop-file-utils appstream shared-mime-info librsvg2-bin groff-base file lintian \
             libxlsxwriter-dev libdxflib-dev python3-openpyxl python3-ezdxf
 
 .PHONY: all deps configure build run test sanitize bench screenshots install package clean
@@ -31,9 +31,14 @@ configure: deps
 build: configure
 	@cmake --build $(BUILD) -j2
 
-run: build
-	@if [ -x $(BUILD)/morve ]; then MORVE_DATA_DIR=$(CURDIR)/data $(BUILD)/morve; \
-	else $(BUILD)/morve-calc --list && $(BUILD)/morve-calc examples/form7-armadura-simples.json; fi
+# Only the two programs: the tests, icons and manual pages wait for `make test`.
+# RUN_FLAGS go to morve (`make run RUN_FLAGS=--timing`).
+RUN_FLAGS ?=
+run: configure
+	@if grep -q '^MORVE_GUI:BOOL=ON' $(BUILD)/CMakeCache.txt; then \
+	  cmake --build $(BUILD) -j2 --target morve morve-calc && MORVE_DATA_DIR=$(CURDIR)/data $(BUILD)/morve $(RUN_FLAGS); \
+	else cmake --build $(BUILD) -j2 --target morve-calc && \
+	  $(BUILD)/morve-calc --list && $(BUILD)/morve-calc examples/form7-armadura-simples.json; fi
 
 test: build
 	@cd $(BUILD) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j2

@@ -1,10 +1,12 @@
 // Factor and solve the largest band the screens allow (2406 equations, semi-
-// bandwidth 200), the program's routines and LAPACK's dpbtrf/dpbtrs side by side on
-// the same matrix.
+// bandwidth 200), the program's routines, reference LAPACK's and OpenBLAS's
+// dpbtrf/dpbtrs side by side on the same matrix, on one thread.
 #include <benchmark/benchmark.h>
 
+#include <cmath>
 #include <random>
 
+#include "bench/lapack_libraries.h"
 #include "numeric/band.h"
 #include "tests/numeric/lapack_band.h"
 
@@ -43,7 +45,11 @@ void BandCholeskySolve(benchmark::State& state) {
 }
 BENCHMARK(BandCholeskySolve)->Unit(benchmark::kMillisecond);
 
-void LapackDpbtrfDpbtrs(benchmark::State& state) {
+void timeLapack(benchmark::State& state, const bench::BandLapack& lib) {
+    if (!lib.fault.empty()) {
+        state.SkipWithError(lib.fault.c_str());
+        return;
+    }
     const std::vector<double> ab0 = lapack::upperBand(spdBand());
     const int n = kN, kd = kNb - 1, ldab = kNb, one = 1;
     for (auto _ : state) {
@@ -52,12 +58,24 @@ void LapackDpbtrfDpbtrs(benchmark::State& state) {
         LoadVector b = rightHandSide();
         state.ResumeTiming();
         int info = 0;
-        dpbtrf_("U", &n, &kd, ab.data(), &ldab, &info);
-        dpbtrs_("U", &n, &kd, &one, ab.data(), &ldab, b.data(), &n, &info);
-        benchmark::DoNotOptimize(info);
+        lib.dpbtrf("U", &n, &kd, ab.data(), &ldab, &info);
+        lib.dpbtrs("U", &n, &kd, &one, ab.data(), &ldab, b.data(), &n, &info);
+        if (info != 0) {
+            state.SkipWithError("dpbtrf/dpbtrs failed");
+            break;
+        }
         benchmark::DoNotOptimize(b.data());
     }
 }
-BENCHMARK(LapackDpbtrfDpbtrs)->Unit(benchmark::kMillisecond);
+
+#ifdef MORVE_REFERENCE_LAPACK
+void ReferenceLapackDpbtrfDpbtrs(benchmark::State& state) { timeLapack(state, bench::referenceLapack()); }
+BENCHMARK(ReferenceLapackDpbtrfDpbtrs)->Unit(benchmark::kMillisecond);
+#endif
+
+#ifdef MORVE_OPENBLAS
+void OpenblasDpbtrfDpbtrs(benchmark::State& state) { timeLapack(state, bench::openBlas()); }
+BENCHMARK(OpenblasDpbtrfDpbtrs)->Unit(benchmark::kMillisecond);
+#endif
 
 }  // namespace

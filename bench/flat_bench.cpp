@@ -2,49 +2,42 @@
 // and the surface drawing that Form40d shows from it.
 #include <benchmark/benchmark.h>
 
-#include "app/module.h"
-#include "slabs/flat_slab.h"
+#include "bench/prepared_case.h"
 
 using namespace morve;
 
 namespace {
 
 // A 12 by 15 m floor with 40 columns in a 5 by 8 grid, sections of three sizes.
-ModuleSession fortyColumns() {
-    ModuleSession session(*ModuleRegistry::find("Form40"), StartDefaults{});
-    FormState& s = session.state();
-    ScriptedPrompter prompter;
-    for (auto [box, text] : {std::pair{"Text4", "22"}, {"Text5", "12"}, {"Text6", "15"}, {"Text7", "40"},
-                             {"Text8", "6"}, {"Text9", "3"}})
-        s.setText(box, text);
-    session.press("Command1", prompter);
+nlohmann::json fortyColumns() {
+    nlohmann::json places = nlohmann::json::array(), sections = nlohmann::json::array();
     const char* sizes[] = {"30", "40", "50"};
     for (int k = 1; k <= 40; ++k) {
         const int i = (k - 1) % 5, j = (k - 1) / 5;
-        s.grid("Form40b.Grade1")[k] = {std::to_string(k), std::to_string(2 + 2 * i), std::to_string(1.5 + 1.5 * j)};
-        s.grid("Form40b.Grade2")[k] = {std::to_string(k), sizes[k % 3], sizes[(k + 1) % 3]};
+        places.push_back({std::to_string(k), std::to_string(2 + 2 * i), std::to_string(1.5 + 1.5 * j)});
+        sections.push_back({std::to_string(k), sizes[k % 3], sizes[(k + 1) % 3]});
     }
-    session.press("Form40b.Command1", prompter);
-    return session;
+    return {{"module", "Form40"},
+            {"set", {{"Text1", "25"}, {"Text2", "28517"}, {"Text3", "2.5"}, {"Text4", "22"}, {"Text5", "12"},
+                     {"Text6", "15"}, {"Text7", "40"}, {"Text8", "6"}, {"Text9", "3"}}},
+            {"grids", {{"Form40b.Grade1", places}, {"Form40b.Grade2", sections}}},
+            {"press", {"Command1", "Form40b.Command1"}}};
 }
 
-void Form40Calculation(benchmark::State& state) {
-    ModuleSession session = fortyColumns();
-    for (auto _ : state) {
-        ScriptedPrompter prompter;
-        const Outcome o = session.press("Command3", prompter);
-        if (!o.completed) state.SkipWithError("the case stopped");
-        benchmark::DoNotOptimize(o);
-    }
-}
+void Form40Calculation(benchmark::State& state) { bench::timePress(state, fortyColumns(), "Command3"); }
 BENCHMARK(Form40Calculation)->Unit(benchmark::kMillisecond);
 
 void Form40SurfaceDrawing(benchmark::State& state) {
-    ModuleSession session = fortyColumns();
-    ScriptedPrompter prompter;
-    session.press("Command3", prompter);
+    nlohmann::json c = fortyColumns();
+    c["press"].push_back("Command3");
+    std::string fault;
+    auto session = bench::preparedCase(c, fault);
+    if (!session) {
+        state.SkipWithError(fault.c_str());
+        return;
+    }
     for (auto _ : state) {
-        Drawing d = session.module().drawing("Form40d.Picture1", session.state());
+        Drawing d = session->module().drawing("Form40d.Picture1", session->state());
         benchmark::DoNotOptimize(d);
     }
 }

@@ -37,7 +37,6 @@ endif()
 set(MORVE_APPSTREAM_ID "br.morve.Morve" CACHE STRING "AppStream component id")
 set(MORVE_SCREENSHOT_URL "https://morve.example.org/screenshots" CACHE STRING
   "Where the pictures of make screenshots are published")
-string(TIMESTAMP MORVE_RELEASE_DATE "%Y-%m-%d" UTC)
 configure_file(data/morve.metainfo.xml.in ${CMAKE_BINARY_DIR}/${MORVE_APPSTREAM_ID}.metainfo.xml @ONLY)
 install(FILES ${CMAKE_BINARY_DIR}/${MORVE_APPSTREAM_ID}.metainfo.xml DESTINATION share/metainfo)
 

@@ -1,11 +1,13 @@
 include_guard(GLOBAL)
-# Manual pages go in compressed, as Debian installs them.
+# Manual pages go in compressed, as Debian installs them, with the version and
+# its release date written into their title line.
 function(morve_install_man page)
-  set(packed ${CMAKE_BINARY_DIR}/man/${page}.gz)
+  set(filled ${CMAKE_BINARY_DIR}/man/${page})
+  configure_file(${CMAKE_SOURCE_DIR}/man/${page} ${filled} @ONLY)
+  set(packed ${filled}.gz)
   add_custom_command(OUTPUT ${packed}
-    COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_BINARY_DIR}/man
-    COMMAND gzip -9 -n -c ${CMAKE_SOURCE_DIR}/man/${page} > ${packed}
-    DEPENDS ${CMAKE_SOURCE_DIR}/man/${page})
+    COMMAND gzip -9 -n -c ${filled} > ${packed}
+    DEPENDS ${filled})
   string(MAKE_C_IDENTIFIER ${page} target)
   add_custom_target(man_${target} ALL DEPENDS ${packed})
   install(FILES ${packed} DESTINATION share/man/man1)

@@ -6,6 +6,36 @@ install(DIRECTORY examples/ DESTINATION share/doc/morve/examples)
 
 set(MORVE_MAINTAINER "MORVE developers <dev@morve.invalid>" CACHE STRING "Maintainer of the Debian package")
 
+# The terms of use, in Debian's machine-readable form, and the package's changelog,
+# one entry for the version, dated with its release.
+install(FILES packaging/copyright DESTINATION share/doc/morve)
+execute_process(COMMAND date -u -R -d "${MORVE_RELEASE_DATE} 12:00"
+                OUTPUT_VARIABLE MORVE_CHANGELOG_DATE OUTPUT_STRIP_TRAILING_WHITESPACE)
+configure_file(packaging/changelog.in ${CMAKE_BINARY_DIR}/packaging/changelog @ONLY)
+add_custom_command(OUTPUT ${CMAKE_BINARY_DIR}/packaging/changelog.gz
+  COMMAND gzip -9 -n -c ${CMAKE_BINARY_DIR}/packaging/changelog > ${CMAKE_BINARY_DIR}/packaging/changelog.gz
+  DEPENDS ${CMAKE_BINARY_DIR}/packaging/changelog)
+add_custom_target(morve_changelog ALL DEPENDS ${CMAKE_BINARY_DIR}/packaging/changelog.gz)
+install(FILES ${CMAKE_BINARY_DIR}/packaging/changelog.gz DESTINATION share/doc/morve)
+install(FILES packaging/lintian-overrides DESTINATION share/lintian/overrides RENAME morve)
+
+# A stripped install (the package's) also drops the compiler's notes, which
+# strip keeps and nothing reads at run time.
+set(MORVE_SHIPPED_BINARIES bin/morve-calc)
+if(TARGET morve)
+  list(APPEND MORVE_SHIPPED_BINARIES bin/morve)
+endif()
+if(TARGET morve_calc_render)
+  list(APPEND MORVE_SHIPPED_BINARIES ${MORVE_RENDER_DIR}/morve-render.so)
+endif()
+install(CODE "
+  if(CMAKE_INSTALL_DO_STRIP)
+    foreach(binary ${MORVE_SHIPPED_BINARIES})
+      execute_process(COMMAND \"${CMAKE_OBJCOPY}\" --remove-section=.comment --remove-section=.note
+                              \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/\${binary}\")
+    endforeach()
+  endif()")
+
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME morve)
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})

@@ -1,22 +1,32 @@
 #!/usr/bin/env python3
-"""Fits the drag charts of drag_charts.txt as the reading routines hold them.
+"""Fits the two drag charts of nbr6123_drag_readings.txt as the reading routines
+DragLowTurbulence and DragHighTurbulence hold them.
 
-With x = ln(l1/l2) and y = ln(h/l1), each chart is held as
-    y + d(x) y^2 = a(x) + b(x) Ca + c(x) Ca^2,
-with a, b, c, d cubics in x (d is zero for the high turbulence chart, which needs
-no bend in y), and Ca is read back by solving that quadratic in Ca. The fit is
-least squares in y weighted by 1/(dy/dCa)^2, so that it weighs the error in Ca,
-repeated until the weights settle. Prints the sixteen coefficients in the order
-the program keeps them (a, b, c, d, each from x^0 to x^3), the largest error in
-Ca over the points, and over a fine grid of the chart's bounds the range of Ca,
-the places where the quadratic has no root and where Ca falls as h/l1 grows.
-Plain Python: python3 fit_drag.py"""
+Each chart is one polynomial surface in the logarithms of its two ratios, scaled to
+[-1, 1] over the range the program accepts:
+    u = ln(l1/l2) / ln 4                            (l1/l2 from 0.25 to 4)
+    v = 2 ln(h/l1 / 0.5) / ln(top / 0.5) - 1        (h/l1 from 0.5 to top, 40 or 6)
+    Ca = sum over i <= 6, j <= 4 of k[i][j] u^i v^j
+The readings at l1/l2 = 0.2 lie outside the accepted range and are left out.
+
+Why this form: the older form, the height as a quadratic in Ca with cubic
+coefficients in ln(l1/l2), misses the low turbulence readings by up to 0.057 (its
+curves for slender buildings bend over near l1/l2 = 2); a surface of degree 6 by 4
+holds every reading within about 0.02, and needs no root to be chosen.
+
+The fit is least squares, then two rounds of weights proportional to each reading's
+error, which trades a little of the mean error for a smaller largest one. Prints,
+per chart, the largest and mean error over the readings, the range of Ca over a
+fine grid of the accepted range and how often Ca falls as h/l1 grows there (it
+should not), then the coefficients as the program keeps them (rows i = 0..6, each
+j = 0..4). Plain Python: python3 fit_drag.py"""
 import math
 import os
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 TOP = {"low": 40.0, "high": 6.0}
-BEND = {"low": True, "high": False}
+DEGREE_U, DEGREE_V = 6, 4
+REWEIGHTINGS = 2
 
 
 def solve(m, v):
@@ -35,56 +45,51 @@ def solve(m, v):
     return x
 
 
-def poly(co, part, x):
-    return sum(co[4 * part + i] * x ** i for i in range(4))
+def terms(chart, ratio, height):
+    u = math.log(ratio) / math.log(4)
+    v = 2 * math.log(height / 0.5) / math.log(TOP[chart] / 0.5) - 1
+    return [u ** i * v ** j for i in range(DEGREE_U + 1) for j in range(DEGREE_V + 1)]
 
 
-def read(co, x, y):
-    rhs = y + poly(co, 3, x) * y * y - poly(co, 0, x)
-    b, c = poly(co, 1, x), poly(co, 2, x)
-    d = b * b + 4 * c * rhs
-    return None if d < 0 else 2 * rhs / (b + math.sqrt(d))
+def drag(co, chart, ratio, height):
+    return sum(c * t for c, t in zip(co, terms(chart, ratio, height)))
 
 
-points = {}
-for line in open(os.path.join(HERE, "drag_charts.txt")):
+readings = {}
+for line in open(os.path.join(HERE, "nbr6123_drag_readings.txt")):
     if line.startswith("#") or not line.strip():
         continue
-    chart, r, h, ca = line.split()
-    points.setdefault(chart, []).append((math.log(float(r)), math.log(float(h)), float(ca)))
+    chart, height, ratio, ca = line.split()
+    if float(ratio) >= 0.25:
+        readings.setdefault(chart, []).append((float(ratio), float(height), float(ca)))
 
-for chart, data in points.items():
-    n = 16 if BEND[chart] else 12
-
-    def features(x, y, ca):
-        f = [x ** i * ca ** j for j in range(3) for i in range(4)]
-        return f + ([-x ** i * y * y for i in range(4)] if BEND[chart] else [])
-
-    w = [1.0] * len(data)
-    for _ in range(40):
+for chart, data in readings.items():
+    n = (DEGREE_U + 1) * (DEGREE_V + 1)
+    weight = [1.0] * len(data)
+    for _ in range(REWEIGHTINGS + 1):
         m = [[0.0] * n for _ in range(n)]
-        v = [0.0] * n
-        for (x, y, ca), wi in zip(data, w):
-            t = features(x, y, ca)
+        rhs = [0.0] * n
+        for (ratio, height, ca), w in zip(data, weight):
+            t = terms(chart, ratio, height)
             for i in range(n):
-                v[i] += wi * t[i] * y
+                rhs[i] += w * t[i] * ca
                 for j in range(n):
-                    m[i][j] += wi * t[i] * t[j]
-        co = solve(m, v) + [0.0] * (16 - n)
-        for i, (x, y, ca) in enumerate(data):
-            w[i] = 1.0 / max(abs(poly(co, 1, x) + 2 * poly(co, 2, x) * ca), 1e-3) ** 2
-    worst = max(abs((read(co, x, y) or 99) - ca) for x, y, ca in data)
-    lo, hi, holes, falls = 9, -9, 0, 0
+                    m[i][j] += w * t[i] * t[j]
+        co = solve(m, rhs)
+        errors = [abs(drag(co, chart, r, h) - ca) for r, h, ca in data]
+        total = sum(w * e for w, e in zip(weight, errors))
+        weight = [w * e / total * len(data) + 1e-12 for w, e in zip(weight, errors)]
+    lo, hi, falls = 9.0, -9.0, 0
     for i in range(81):
-        x = math.log(0.2501 * (4 / 0.2501) ** (i / 80))
+        ratio = 0.25 * 16 ** (i / 80)
         before = None
-        for j in range(81):
-            c = read(co, x, math.log(0.5001 * (TOP[chart] / 0.5001) ** (j / 80)))
-            if c is None:
-                holes += 1
-                continue
-            lo, hi = min(lo, c), max(hi, c)
-            falls += before is not None and c < before
-            before = c
-    print(chart, "worst", round(worst, 4), "range", round(lo, 3), round(hi, 3), "holes", holes, "falls", falls)
-    print("   ", ", ".join("%.10g" % c for c in co))
+        for j in range(161):
+            ca = drag(co, chart, ratio, 0.5 * (TOP[chart] / 0.5) ** (j / 160))
+            lo, hi = min(lo, ca), max(hi, ca)
+            falls += before is not None and ca < before - 1e-9
+            before = ca
+    print("%s: %d readings, largest error %.4f, mean %.4f, Ca from %.3f to %.3f, falls %d"
+          % (chart, len(data), max(errors), sum(errors) / len(errors), lo, hi, falls))
+    for i in range(DEGREE_U + 1):
+        row = co[i * (DEGREE_V + 1):(i + 1) * (DEGREE_V + 1)]
+        print("    {" + ", ".join("%.10g" % c for c in row) + "},")

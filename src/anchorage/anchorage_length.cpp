@@ -53,8 +53,10 @@ double bondStrength(double fck, BarSurface surface, bool goodBond) {
 double basicAnchorageLength(double phi, double fyk, double fbd) {
     const double fyd = fyk / 1.15;
     const double lb = phi * fyd / (4 * fbd);
-    // The cap also catches a length that overflows for an absurd fyk.
-    return std::isfinite(lb) && lb <= 25 * phi ? lb : 25 * phi;
+    // 25 phi is the least basic length for every surface and bond zone: a good bond
+    // shortens lb down to it, never below, and a poor one lengthens it as far as the
+    // bond asks.
+    return std::max(lb, 25 * phi);
 }
 
 AnchorageLengths anchorageLengths(const AnchorageDemand& d) {

@@ -18,7 +18,7 @@ const std::vector<std::string>& barSurfaceItems();
 // Design bond strength fbd (MPa) of a bar of the surface in good or poor bond.
 double bondStrength(double fck, BarSurface surface, bool goodBond);
 
-// Basic anchorage length lb (cm) of a bar of phi cm, never above 25 phi.
+// Basic anchorage length lb (cm) of a bar of phi cm, never below 25 phi.
 double basicAnchorageLength(double phi, double fyk, double fbd);
 
 // What a case asks of the bar: lb scaled by the ratio As,cal/Ase and the lap factor

@@ -32,11 +32,11 @@ void checkConcreteService(CheckSequence& checks, const FormState& s) {
         .askIf(creep > 5, msg::kHighCreep, "Text3");
 }
 
-void reportConcrete(ReportWriter& out, const FormState& s) {
+void reportConcrete(ReportWriter& out, const FormState& s, const std::string& creepCaption) {
     out.write("Propriedades do concreto:");
     out.write("Resistência característica fck= ", s.text("Text1"), " MPa");
     out.write("Módulo secante Ecs= ", s.text("Text2"), " MPa");
-    out.write("Coeficiente de fluência = ", s.text("Text3"));
+    out.write(creepCaption, s.text("Text3"));
     out.blank();
 }
 

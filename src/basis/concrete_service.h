@@ -18,6 +18,7 @@ void addConcreteFrame(ScreenBuilder& s, const std::string& frame, int row, int c
 void loadConcreteDefaults(FormState& state, const StartDefaults& defaults);
 // fck within the code's range, Ecs positive and near the code's value, creep not above 5.
 void checkConcreteService(CheckSequence& checks, const FormState& state);
-void reportConcrete(ReportWriter& out, const FormState& s);
+void reportConcrete(ReportWriter& out, const FormState& s,
+                    const std::string& creepCaption = "Coeficiente de fluência = ");
 
 }  // namespace morve

@@ -158,15 +158,22 @@ CaseRun runCase(const json& c) {
     if (c.contains("set")) applySet(session, c.at("set"));
     if (c.contains("grids")) applyGrids(session, c.at("grids"));
 
-    std::vector<std::string> presses{session.info().calculate};
+    // A press is a button's name, or {"set": ..., "grids": ...}: texts typed between
+    // two presses, as on a screen that only opens a button after a calculation.
+    std::vector<json> presses{json(session.info().calculate)};
     if (c.contains("press")) {
         const json& p = c.at("press");
         if (!p.is_array()) throw CaseError("\"press\" deve ser uma lista de botões");
-        presses.clear();
-        for (const auto& name : p) presses.push_back(textOf(name));
+        presses.assign(p.begin(), p.end());
     }
-    for (const auto& name : presses)
-        if (!isCommand(session.state(), name)) throw CaseError("botão desconhecido: " + excerpt(name));
+    for (const auto& press : presses) {
+        if (press.is_object()) {
+            for (const auto& [key, value] : press.items())
+                if (key != "set" && key != "grids") throw CaseError("entre botões só cabem \"set\" e \"grids\"");
+        } else if (!isCommand(session.state(), textOf(press))) {
+            throw CaseError("botão desconhecido: " + excerpt(textOf(press)));
+        }
+    }
 
     std::vector<std::string> answers;
     if (c.contains("answers")) {
@@ -177,7 +184,13 @@ CaseRun runCase(const json& c) {
     ScriptedPrompter prompter(answers);
 
     json steps = json::array();
-    for (const auto& name : presses) {
+    for (const auto& press : presses) {
+        if (press.is_object()) {
+            if (press.contains("set")) applySet(session, press.at("set"));
+            if (press.contains("grids")) applyGrids(session, press.at("grids"));
+            continue;
+        }
+        const std::string name = textOf(press);
         Outcome o = session.press(name, prompter);
         json messages = json::array();
         for (const auto& m : prompter.takeMessages())

@@ -1,13 +1,16 @@
 // morve-calc: runs a case file through a module and prints the outcome as JSON,
-// or writes the module's report.
+// writes the module's report, or checks case files against their expectations.
 #include <cstdio>
 #include <fstream>
 #include <iostream>
 #include <sstream>
 #include <string>
+#include <vector>
 
+#include "app/about.h"
 #include "app/catalogue.h"
 #include "app/texts.h"
+#include "cli/case_check.h"
 #include "cli/case_runner.h"
 #include "cli/project_case.h"
 #include "cli/report_file.h"
@@ -21,7 +24,9 @@ const char* kUsage =
     "     morve-calc --save SAIDA.mor CASO.json\n"
     "     morve-calc --xlsx SAIDA.xlsx CASO.json\n"
     "     morve-calc --picture Form40d.Picture1 SAIDA.gif|SAIDA.png|SAIDA.svg|SAIDA.dxf CASO.json\n"
-    "     morve-calc --list\n";
+    "     morve-calc --check CASO.json...\n"
+    "     morve-calc --list\n"
+    "     morve-calc --version\n";
 
 int listModules() {
     for (const auto& key : morve::ModuleRegistry::keys()) {
@@ -39,6 +44,8 @@ int listModules() {
 
 int main(int argc, char** argv) {
     std::string casePath, reportPath, savePath, xlsxPath, key, title, picture, picturePath;
+    std::vector<std::string> casePaths;
+    bool check = false;
     for (int i = 1; i < argc; ++i) {
         std::string a = argv[i];
         auto value = [&](const char* what) -> std::string {
@@ -53,7 +60,12 @@ int main(int argc, char** argv) {
             std::cout << kUsage;
             return 0;
         }
-        if (a == "--report") reportPath = value("--report");
+        if (a == "--version") {
+            std::cout << morve::versionText("morve-calc");
+            return 0;
+        }
+        if (a == "--check") check = true;
+        else if (a == "--report") reportPath = value("--report");
         else if (a == "--save") savePath = value("--save");
         else if (a == "--xlsx") xlsxPath = value("--xlsx");
         else if (a == "--key") key = value("--key");
@@ -65,7 +77,17 @@ int main(int argc, char** argv) {
         else if (!a.empty() && a[0] == '-') {
             std::cerr << "morve-calc: opção desconhecida: " << a << "\n" << kUsage;
             return 2;
-        } else casePath = a;
+        } else {
+            casePath = a;
+            casePaths.push_back(a);
+        }
+    }
+    if (check) {
+        if (casePaths.empty()) {
+            std::cerr << kUsage;
+            return 2;
+        }
+        return morve::checkCaseFiles(casePaths);
     }
     if (casePath.empty()) {
         std::cerr << kUsage;

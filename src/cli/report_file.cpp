@@ -3,17 +3,10 @@
 #include <fstream>
 
 #include "app/catalogue.h"
+#include "cli/renderer.h"
 #include "export/dxf_drawing.h"
 #include "reports/report_dispatch.h"
 #include "reports/report_writer.h"
-
-#ifdef MORVE_HAS_RENDER
-#include <QString>
-
-#include "render/drawing_export.h"
-#include "render/offscreen.h"
-#include "render/page_painter.h"
-#endif
 
 namespace morve {
 
@@ -42,13 +35,10 @@ std::string writeReportFile(const ModuleSession& session, const std::string& pat
         return out ? "" : "não foi possível gravar " + path;
     }
     if (endsWith(path, ".pdf")) {
-#ifdef MORVE_HAS_RENDER
-        ensurePaintingApplication();
-        return writeReportPdf(paginate(writer.document(), denomination, PageRule::Paper),
-                              QString::fromStdString(path));
-#else
-        return "esta versão do morve-calc foi construída sem Qt e não grava PDF";
-#endif
+        std::string why;
+        const RenderEntryPoints* renderer = loadRenderer(why);
+        if (!renderer) return why;
+        return renderer->reportPdf(paginate(writer.document(), denomination, PageRule::Paper), path);
     }
     return "a extensão do relatório deve ser .txt ou .pdf: " + path;
 }
@@ -63,15 +53,12 @@ std::string writePictureFile(const ModuleSession& session, const std::string& pi
     if (drawing.empty()) return "o desenho " + name + " está vazio: calcule antes de gravá-lo";
     // DXF goes without the painter: a CAD file is vectors with layers, not a picture.
     if (path.size() > 4 && path.compare(path.size() - 4, 4, ".dxf") == 0) return writeDxf(drawing, path);
-#ifdef MORVE_HAS_RENDER
-    ensurePaintingApplication();
+    std::string why;
+    const RenderEntryPoints* renderer = loadRenderer(why);
+    if (!renderer) return why;
     // The size the picture box is declared with, as the desktop first shows it.
-    const QSize size(control->width > 0 ? control->width : 640, control->height > 0 ? control->height : 480);
-    return exportDrawing(drawing, QString::fromStdString(path), size);
-#else
-    (void)path;
-    return "esta versão do morve-calc foi construída sem Qt e não grava desenhos";
-#endif
+    return renderer->picture(drawing, path, control->width > 0 ? control->width : 640,
+                             control->height > 0 ? control->height : 480);
 }
 
 }  // namespace morve

@@ -1,7 +1,7 @@
 #pragma once
 // Writes a module's report to a file, by its extension: plain text with form
-// feeds between pages, or PDF through the same painter the desktop prints with;
-// and a picture of the module to a picture file.
+// feeds between pages, or PDF through the same painter the desktop prints with
+// (loaded on demand, cli/renderer.h); and a picture of the module to a picture file.
 #include <string>
 
 #include "app/module.h"

@@ -29,6 +29,7 @@ const std::string kCrossed = "O contorno da seção se cruza. Verifique a ordem 
 const std::string kNoForces = "Forneça ao menos um esforço de cálculo diferente de zero.";
 const std::string kResists = "A seção resiste aos esforços de cálculo dados.";
 const std::string kFails = "A seção não resiste aos esforços de cálculo dados.";
+const std::string kDesignOnly = "Sem áreas das barras: apenas o dimensionamento foi feito.";
 
 std::string barOutside(std::size_t bar) {
     return "A barra " + std::to_string(bar) + " está fora da seção. Verifique as coordenadas das barras.";
@@ -38,8 +39,9 @@ std::string negativeBar(std::size_t bar) {
 }
 
 // With no direction error above a hundredth of a degree the components of the
-// moment are exact to far better than the rounding of the results.
-const SearchLimits kLimits{100, 60, 1e-4, 100};
+// moment are exact to far better than the rounding of the results. An outline
+// without symmetry bends askew under one moment alone, so the angle is always sought.
+const SearchLimits kLimits{100, 60, 1e-4, 100, false};
 constexpr int kContourDirections = 72;
 constexpr int kReportPictureLines = 18;
 
@@ -189,14 +191,20 @@ private:
         if (!p) return checks.outcome();
         warnSmallColumnArea(checks, p->model.section().area);
 
-        // A) the steel typed for the bars.
-        const SafetyFactor safety = safetyFactor(p->model, p->asGiven, p->nd, p->mxd, p->myd, kLimits);
-        checks.warnIf(!std::isfinite(safety.s), kUndefinedResult);
-        if (checks.stopped()) return checks.outcome();
-        s.setText("Text6", formatResult(p->asGiven));
-        // The verdict follows the factor as shown, so that "S= 1" never reads as a failure.
-        s.setText("Text11", formatResult(safety.s));
-        s.setText("Text15", readNumber(s.text("Text11")) >= 1 ? kResists : kFails);
+        // A) the steel typed for the bars; with no areas there is nothing to verify.
+        const bool verify = p->asGiven > 0;
+        SafetyFactor safety;
+        if (verify) {
+            safety = safetyFactor(p->model, p->asGiven, p->nd, p->mxd, p->myd, kLimits);
+            checks.warnIf(!std::isfinite(safety.s), kUndefinedResult);
+            if (checks.stopped()) return checks.outcome();
+            s.setText("Text6", formatResult(p->asGiven));
+            // The verdict follows the factor as shown, so that "S= 1" never reads as a failure.
+            s.setText("Text11", formatResult(safety.s));
+            s.setText("Text15", readNumber(s.text("Text11")) >= 1 ? kResists : kFails);
+        } else {
+            s.setText("Text15", kDesignOnly);
+        }
 
         // B) the steel that the same bars need.
         const SteelDesign design = designSteel(p->model, p->nd, p->mxd, p->myd, kLimits);
@@ -209,7 +217,7 @@ private:
         s.setText("Text13", formatResult(minimumColumnSteel(ac, p->nd, p->fcd, p->fyd)));
 
         // The picture shows the neutral axis of the bars as typed, or of the design.
-        const NeutralAxisSolution& axis = p->asGiven > 0 ? safety.axis : design.axis;
+        const NeutralAxisSolution& axis = verify ? safety.axis : design.axis;
         if (p->mxd != 0 || p->myd != 0) keepNeutralAxis(s, axis, p->model.material().block.lambda);
         return Outcome::done()
             .then(EffectKind::EnableControl, "Form17.Command6")

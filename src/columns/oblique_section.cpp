@@ -4,6 +4,8 @@
 #include <cmath>
 #include <numbers>
 
+#include "basis/false_position.h"
+
 namespace morve {
 
 namespace {
@@ -24,34 +26,11 @@ double wrapped(double angle) {
     return angle;
 }
 
-enum class Refine { Plain, Illinois };
-
-// False position between a and b, whose values differ in sign, until `close`
-// accepts a value; false when the rounds run out or a value is not a number. The
-// depth and steel searches keep the plain rule; the angle and the safety factor
-// halve the value of an end kept twice (Illinois), since their functions bend
-// sharply near one end and the plain rule would creep towards the root.
-template <class F, class Close>
-bool falsePosition(double a, double fa, double b, double fb, F&& f, Close&& close, int rounds, Refine rule) {
-    int kept = 0;  // 1: a was kept by the last round, -1: b
-    for (int round = 0; round < rounds; ++round) {
-        const double c = (fb * a - fa * b) / (fb - fa);
-        const double fc = f(c);
-        if (close(fc)) return true;
-        if (!std::isfinite(fc)) return false;
-        if (fc * fa < 0) {
-            b = c;
-            fb = fc;
-            if (rule == Refine::Illinois && kept == 1) fa /= 2;
-            kept = 1;
-        } else {
-            a = c;
-            fa = fc;
-            if (rule == Refine::Illinois && kept == -1) fb /= 2;
-            kept = -1;
-        }
-    }
-    return false;
+// Every search of these sections closes its bracket from both sides (Illinois):
+// under a limit of rounds the plain rule would stop short of the root as the force
+// nears the squash load, where the equation of the depth bends sharply.
+FalsePositionRule searchRule(double tolerance, int rounds) {
+    return {.tolerance = tolerance, .illinois = true, .maxRounds = rounds};
 }
 
 }  // namespace
@@ -84,10 +63,11 @@ TurnedSection ObliqueModel::turn(double angle) const {
         ymin = std::min(ymin, p.y);
     }
     t.h = t.ymax - ymin;
-    for (const Point& p : section_.bars) {
-        t.bars.push_back(rotated(p, t.cosine, t.sine));
+    for (std::size_t i = 0; i < section_.bars.size(); ++i) {
+        t.bars.push_back(rotated(section_.bars[i], t.cosine, t.sine));
         t.depth.push_back(t.ymax - t.bars.back().y);
-        t.dmax = std::max(t.dmax, t.depth.back());
+        // A bar of no area is no steel: it cannot hold the pivot of the deepest bar.
+        if (section_.shares[i] > 0) t.dmax = std::max(t.dmax, t.depth.back());
     }
     // Bars that all lie on the top edge leave no depth for the steel pivot: it is
     // taken at the bottom of the section instead.
@@ -152,17 +132,18 @@ NeutralAxisSolution balanceDepth(const ObliqueModel& model, const TurnedSection&
         x2 *= 10;
         g2 = evaluate(x2);
     }
-    out.converged = falsePosition(x1, g1, x2, g2, evaluate,
-                                  [](double g) { return std::abs(g) <= kForceTolerance; }, maxRounds, Refine::Plain);
+    out.converged = falsePosition(evaluate, x1, g1, x2, g2, searchRule(kForceTolerance, maxRounds)).converged();
     return out;
 }
 
 NeutralAxisSolution alignMoment(const ObliqueModel& model, double as, double nd, double mxd, double myd,
-                                const SearchLimits& limits) {
+                                const SearchLimits& limits, Point centre) {
     auto atAngle = [&](double angle) { return balanceDepth(model, model.turn(angle), as, nd, limits.depthRounds); };
     // One moment alone: the neutral axis lies square to it.
-    if (myd == 0) return atAngle(mxd >= 0 ? 0 : kPi);
-    if (mxd == 0) return atAngle(myd > 0 ? -kPi / 2 : kPi / 2);
+    if (limits.twoAxesOfSymmetry && centre.x == 0 && centre.y == 0) {
+        if (myd == 0) return atAngle(mxd >= 0 ? 0 : kPi);
+        if (mxd == 0) return atAngle(myd > 0 ? -kPi / 2 : kPi / 2);
+    }
 
     const double target = std::atan2(myd, mxd);
     int passes = 0;
@@ -171,8 +152,8 @@ NeutralAxisSolution alignMoment(const ObliqueModel& model, double as, double nd,
     auto error = [&](double angle) {
         ++passes;
         best = atAngle(angle);
-        const bool none = best.r.mx == 0 && best.r.my == 0;
-        return wrapped((none ? 0 : std::atan2(best.r.my, best.r.mx)) - target);
+        const double mx = best.r.mx - centre.x, my = best.r.my - centre.y;
+        return wrapped((mx == 0 && my == 0 ? 0 : std::atan2(my, mx)) - target);
     };
     auto done = [&](double e) { return std::abs(e) / kPi <= limits.angleTolerance; };
     auto finish = [&](bool converged) {
@@ -184,7 +165,7 @@ NeutralAxisSolution alignMoment(const ObliqueModel& model, double as, double nd,
     double a = -target, ea = error(a);
     // A section that takes no moment at all under this force (plain concrete
     // without a force) has no direction to turn to.
-    if (done(ea) || (best.r.mx == 0 && best.r.my == 0)) return finish(true);
+    if (done(ea) || (best.r.mx == centre.x && best.r.my == centre.y)) return finish(true);
     if (!std::isfinite(ea)) return finish(false);
     // Seek the bracket: step by the error (the turn of a section equally stiff about
     // every axis), then by the secant of the last two passes.
@@ -203,8 +184,66 @@ NeutralAxisSolution alignMoment(const ObliqueModel& model, double as, double nd,
         slope = secant < 0 ? secant : -1;
     }
     const int left = limits.anglePasses - passes;
-    return finish(falsePosition(a, ea, b, eb, error, done, left, Refine::Illinois));
+    return finish(falsePosition(error, a, ea, b, eb, searchRule(limits.angleTolerance * kPi, left)).converged());
 }
+
+namespace {
+
+// The moment of the bars alone when the whole section is squashed at eps_c2; the
+// concrete, uniformly stressed, adds none about its own centroid.
+Point squashMoment(const ObliqueModel& model, double as) {
+    const ObliqueMaterial& m = model.material();
+    const double stress = BilinearStress(m.es, m.block.epsC2 / 1000, m.fyd);
+    Point moment{0, 0};
+    const ObliqueSection& s = model.section();
+    for (std::size_t i = 0; i < s.bars.size(); ++i) {
+        moment.x += stress * s.shares[i] * as * s.bars[i].y;
+        moment.y += stress * s.shares[i] * as * s.bars[i].x;
+    }
+    return moment;
+}
+
+double largestExtent(const std::vector<Point>& outline) {
+    double xl = 0, xh = 0, yl = 0, yh = 0;
+    for (const Point& p : outline) {
+        xl = std::min(xl, p.x), xh = std::max(xh, p.x);
+        yl = std::min(yl, p.y), yh = std::max(yh, p.y);
+    }
+    return std::max(xh - xl, yh - yl);
+}
+
+// How far the point (n, mx, my) lies inside the failure surface, in kN cm. Under
+// the force n the resisting moments form a closed convex contour; with the bars
+// off the centroid of the concrete it moves off the origin, and near the squash
+// load it no longer surrounds it, so the point is seen from a centre inside the
+// contour: the mean of the moments of four neutral axes a quarter turn apart.
+// Along the ray from that centre through the point the contour lies at a distance
+// r; the gap is r less the distance of the point, positive inside.
+double surfaceGap(const ObliqueModel& model, double as, double n, double mx, double my, const SearchLimits& limits,
+                  NeutralAxisSolution& axis, bool& converged) {
+    converged = true;
+    Point centre{0, 0};
+    for (int k = 0; k < 4; ++k) {
+        const NeutralAxisSolution edge = balanceDepth(model, model.turn(k * kPi / 2), as, n, limits.depthRounds);
+        converged = converged && edge.converged;
+        centre.x += edge.r.mx / 4;
+        centre.y += edge.r.my / 4;
+    }
+    double dx = mx - centre.x, dy = my - centre.y;
+    const double distance = std::hypot(dx, dy);
+    // The point on the centre: any ray will do.
+    if (distance == 0) dx = 1, dy = 0;
+    axis = alignMoment(model, as, n, dx, dy, limits, centre);
+    converged = converged && axis.converged;
+    return std::hypot(axis.r.mx - centre.x, axis.r.my - centre.y) - distance;
+}
+
+// The gap that counts as nil: a hundred-thousandth of the moments at stake.
+double gapTolerance(const ObliqueModel& model, double nd, double md) {
+    return 1e-5 * (md + nd * largestExtent(model.section().outline));
+}
+
+}  // namespace
 
 SteelDesign designSteel(const ObliqueModel& model, double nd, double mxd, double myd, const SearchLimits& limits) {
     const ObliqueMaterial& m = model.material();
@@ -214,17 +253,24 @@ SteelDesign designSteel(const ObliqueModel& model, double nd, double mxd, double
     SteelDesign out;
     // The steel that uniform compression needs.
     double as0 = std::max((nd - m.sigmacd * ac) / squash, 0.0);
-    if (md == 0) {
+    // With two axes of symmetry the contour of moments is centred on the origin and
+    // uniform compression bends nothing; otherwise the bars off the centroid of the
+    // concrete bend the section even then, and the forces are placed against the
+    // failure surface as the safety factor places them.
+    const bool symmetric = limits.twoAxesOfSymmetry;
+    if (md == 0 && symmetric) {
         out.as = as0;
         return out;
     }
     double last = 0;  // the excess of the last evaluation
     auto excess = [&](double as) {
-        out.axis = alignMoment(model, as, nd, mxd, myd, limits);
-        out.converged = out.converged && out.axis.converged;
         out.as = as;
+        if (!symmetric) return last = surfaceGap(model, as, nd, mxd, myd, limits, out.axis, out.converged);
+        out.axis = alignMoment(model, as, nd, mxd, myd, limits);
+        out.converged = out.axis.converged;
         return last = (std::hypot(out.axis.r.mx, out.axis.r.my) - md) / md;
     };
+    const double tolerance = symmetric ? kSteelTolerance : gapTolerance(model, nd, md);
     if (nd == 0) as0 = 0.01 * ac * m.sigmacd / m.fyd;
     double f0 = excess(as0);
     if (f0 >= 0) return out;
@@ -245,9 +291,7 @@ SteelDesign designSteel(const ObliqueModel& model, double nd, double mxd, double
         as1 *= 2;
         f1 = excess(as1);
     }
-    const bool found = falsePosition(as0, f0, as1, f1, excess,
-                                     [](double f) { return std::abs(f) <= kSteelTolerance; }, limits.steelRounds,
-                                     Refine::Plain);
+    const bool found = falsePosition(excess, as0, f0, as1, f1, searchRule(tolerance, limits.steelRounds)).converged();
     out.converged = out.converged && found;
     if (!std::isfinite(last)) out.as = std::nan("");
     return out;
@@ -257,27 +301,34 @@ SafetyFactor safetyFactor(const ObliqueModel& model, double as, double nd, doubl
                           const SearchLimits& limits) {
     SafetyFactor out;
     const double md = std::hypot(mxd, myd);
-    const double squash = model.squashForce(as);
-    if (md == 0) {
-        out.s = nd == 0 ? std::nan("") : squash / nd;
+    if (nd == 0) {
+        // Bending alone: the contour of the moments under no force surrounds the
+        // origin, and S is its radius along the acting moment over that moment.
+        if (md == 0) {
+            out.s = std::nan("");
+            return out;
+        }
+        out.axis = alignMoment(model, as, 0, mxd, myd, limits);
+        out.converged = out.axis.converged;
+        out.s = std::hypot(out.axis.r.mx, out.axis.r.my) / md;
         return out;
     }
-    // The moment the section resists along the acting one, under the factored force.
     double last = 0;  // the gap of the last evaluation
     auto gap = [&](double s) {
-        out.axis = alignMoment(model, as, s * nd, mxd, myd, limits);
-        out.converged = out.converged && out.axis.converged;
         out.s = s;
-        return last = std::hypot(out.axis.r.mx, out.axis.r.my) - s * md;
+        return last = surfaceGap(model, as, s * nd, s * mxd, s * myd, limits, out.axis, out.converged);
     };
-    const double g0 = gap(0);
-    if (nd == 0) {
-        out.s = g0 / md;
+    const double tolerance = gapTolerance(model, nd, md);
+    // The path leaves the surface at the latest where the force alone squashes the
+    // section; there the contour has shrunk to the moment of the bars alone.
+    const double b0 = model.squashForce(as) / nd;
+    const Point atSquash = squashMoment(model, as);
+    double b = b0, gb = -std::hypot(b * mxd - atSquash.x, b * myd - atSquash.y);
+    if (std::abs(gb) <= tolerance) {
+        out.s = b;
         return out;
     }
-    // The path leaves the surface at the latest where the force alone squashes the
-    // section; there the moment it resists is taken as nil, so no search is made.
-    double a = 0, ga = g0, b = squash / nd, gb = -b * md;
+    double a = 0, ga = gap(0);
     // Without steel the section takes no moment without a force: the path starts on
     // the surface, and the inside is sought by halving the factor from the squash.
     for (int halved = 0; ga <= 0; ++halved) {
@@ -290,9 +341,7 @@ SafetyFactor safetyFactor(const ObliqueModel& model, double as, double nd, doubl
         (g > 0 ? a : b) = s;
         (g > 0 ? ga : gb) = g;
     }
-    const double tolerance = 1e-4 * md;
-    const bool found = falsePosition(a, ga, b, gb, gap, [&](double g) { return std::abs(g) <= tolerance; },
-                                     limits.steelRounds, Refine::Illinois);
+    const bool found = falsePosition(gap, a, ga, b, gb, searchRule(tolerance, limits.steelRounds)).converged();
     out.converged = out.converged && found;
     if (!std::isfinite(last)) out.s = std::nan("");
     return out;

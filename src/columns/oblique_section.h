@@ -77,6 +77,10 @@ struct SearchLimits {
     int anglePasses = 51;
     double angleTolerance = 0.001;
     int steelRounds = 100;
+    // A section with two axes of symmetry and its bars balanced about them: one
+    // moment alone puts the neutral axis square to it, and the contour of moments
+    // under any force below the squash load surrounds the origin.
+    bool twoAxesOfSymmetry = true;
 };
 
 // The neutral axis found for a normal force: its angle and depth and the resultant.
@@ -92,7 +96,7 @@ NeutralAxisSolution balanceDepth(const ObliqueModel& model, const TurnedSection&
                                  int maxRounds);
 
 // The angle and depth whose resisting moment points along (mxd, myd) under nd.
-// Either moment zero fixes the angle. Otherwise the rule is: start with the neutral
+// Either moment zero fixes the angle when the limits say so. Otherwise the rule is: start with the neutral
 // axis square to the acting moment (exact for a section equally stiff about every
 // axis); while the direction error keeps its sign, turn by the error over the
 // secant slope of the last two passes (slope -1 at first), at most an eighth of a
@@ -101,12 +105,17 @@ NeutralAxisSolution balanceDepth(const ObliqueModel& model, const TurnedSection&
 // angle; for a doubly symmetric section it is 0 at angle 0 and a quarter turn at
 // -pi/2, so the bracket is never wider than a quarter turn and the search ends in
 // about twenty passes at worst, well inside the limit of 51.
+// With a centre, the moment less the centre is turned onto (mxd, myd) instead.
 NeutralAxisSolution alignMoment(const ObliqueModel& model, double as, double nd, double mxd, double myd,
-                                const SearchLimits& limits);
+                                const SearchLimits& limits, Point centre = {0, 0});
 
-// The total steel that makes the resisting moment just equal to the acting one:
+// The total steel that makes the resisting moment just equal to the acting one
+// (without two axes of symmetry: that puts the forces on the failure surface):
 // the uniform-compression steel first, then doubling until the moment is reached,
 // then false position.
+// `converged` tells of the search and of the last evaluation, whose neutral axis
+// is kept; the trials on the way may fail to converge (the uniform-compression
+// steel squashes the section, where no angle can be sought) without harm.
 struct SteelDesign {
     double as = 0;
     NeutralAxisSolution axis;
@@ -115,8 +124,9 @@ struct SteelDesign {
 SteelDesign designSteel(const ObliqueModel& model, double nd, double mxd, double myd, const SearchLimits& limits);
 
 // The safety factor S on a proportional load path: the factor by which nd, mxd and
-// myd together must grow (or shrink) to reach the failure surface. Not finite when
-// all three are zero.
+// myd together must grow (or shrink) to reach the failure surface, with or without
+// moments, with the bars centred on the concrete or not. Not finite when all three
+// are zero.
 struct SafetyFactor {
     double s = 0;
     NeutralAxisSolution axis;

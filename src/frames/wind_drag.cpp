@@ -1,6 +1,6 @@
 #include "frames/wind_drag.h"
 
-#include <array>
+#include <algorithm>
 #include <cmath>
 
 namespace morve {
@@ -14,43 +14,55 @@ constexpr double kP[5][3] = {{0.06, 0.065, 0.07}, {0.085, 0.09, 0.10}, {0.10, 0.
                              {0.12, 0.125, 0.135}, {0.15, 0.16, 0.175}};
 constexpr double kFr[3] = {1.00, 0.98, 0.95};
 
-// A chart as y + d(x) y^2 = a(x) + b(x) Ca + c(x) Ca^2 with x = ln(l1/l2),
-// y = ln(h/l1) and a, b, c, d cubics in x, coefficients from x^0 up. The
-// fits, their points and how they were made are in data/wind.
+// A chart as one polynomial surface in the logarithms of its two ratios, each
+// scaled to [-1, 1] over the range the chart accepts:
+//   u = ln(l1/l2) / ln 4,  v = 2 ln(h/l1 / 0.5) / ln(top / 0.5) - 1,
+//   Ca = sum of k[i][j] u^i v^j.
+// The coefficients reproduce every reading of data/wind/nbr6123_drag_readings.txt
+// within 0.022 (low turbulence) and 0.012 (high); data/wind/fit_drag.py makes them.
 struct DragChart {
-    std::array<double, 16> k;
+    double k[7][5];
     double topHeight;  // the largest h/l1 the chart covers
 };
 
-constexpr DragChart kLow{{-11.9202725, 5.842942976, -1.261749788, -0.419256766,
-                          16.15230752, -12.17427877, 4.342454575, -0.01733999265,
-                          -4.591006167, 5.01196672, -2.399549641, 0.2685239597,
-                          -0.1184900325, 0.00227378598, 0.01867209567, -0.0208451555},
+constexpr DragChart kLow{{{1.382464793, 0.4241324882, 0.1755046661, 0.06953450715, -0.06398237666},
+                          {0.4174286153, 0.1422819632, 0.5419011896, 0.0758220757, -0.3437531083},
+                          {-0.5571973133, 0.1962470449, 0.2741826695, -0.4997714074, -0.238803789},
+                          {0.1633822013, 0.1163228251, -1.221865317, -0.3006159761, 0.7745414915},
+                          {0.5580461794, -0.8619472389, -0.6269805985, 1.078222356, 0.5348606056},
+                          {-0.1986508856, -0.1328445274, 0.7532765792, 0.2110409879, -0.436078048},
+                          {-0.2307548246, 0.5163982404, 0.2909113435, -0.6044020463, -0.2681115521}},
                          40};
-constexpr DragChart kHigh{{-14.80226014, 8.203292421, -3.79155671, 0.1922223177,
-                           22.0626578, -18.91965416, 9.779081983, -1.135486744,
-                           -6.379255982, 8.769244575, -5.460316527, 0.9197188215,
-                           0, 0, 0, 0},
+constexpr DragChart kHigh{{{0.9575465206, 0.07984798188, -0.02355249498, 0.03831367972, 0.03000069448},
+                           {0.2401315487, -0.06965651884, -0.0150723069, 0.09099668364, 0.03402593542},
+                           {-0.2423034571, 0.02779241141, 0.7784811561, -0.006934218657, -0.5466230649},
+                           {0.1063845792, 0.4511697147, 0.1300013244, -0.3673491433, -0.1653316276},
+                           {0.7406031704, 0.09453750209, -1.933891167, -0.1339661472, 1.415273947},
+                           {-0.01534769872, -0.3397588678, -0.1149730734, 0.3133340045, 0.1448732246},
+                           {-0.4023843125, -0.100463778, 1.159916468, 0.1453498582, -0.8878547576}},
                           6};
 
-double cubic(const DragChart& chart, int part, double x) {
-    const double* c = &chart.k[static_cast<std::size_t>(4 * part)];
-    return c[0] + x * (c[1] + x * (c[2] + x * c[3]));
-}
-
 DragReading readChart(const DragChart& chart, double l1OverL2, double hOverL1) {
-    if (!(l1OverL2 > 0.25 && l1OverL2 <= 4)) return {DragStatus::FacesOutside, 0};
-    if (!(hOverL1 > 0.5 && hOverL1 <= chart.topHeight)) return {DragStatus::HeightOutside, 0};
-    const double x = std::log(l1OverL2), y = std::log(hOverL1);
-    const double rhs = y + cubic(chart, 3, x) * y * y - cubic(chart, 0, x);
-    const double b = cubic(chart, 1, x), c = cubic(chart, 2, x);
-    const double discriminant = b * b + 4 * c * rhs;
-    if (discriminant < 0) return {DragStatus::HeightOutside, 0};
-    // The root on the branch where Ca grows with the height, written so that it
-    // stays exact as c goes to zero.
-    const double root = 2 * rhs / (b + std::sqrt(discriminant));
-    if (!std::isfinite(root) || root <= 0) return {DragStatus::HeightOutside, 0};
-    return {DragStatus::Read, root};
+    // Both ends of each range are readings of the chart. A ratio of typed decimals
+    // that should fall on an end (4.4 / 1.1) may miss it in the last bit: such a
+    // ratio is taken as the end itself.
+    const auto within = [](double& ratio, double low, double high) {
+        constexpr double kSlack = 1e-12;
+        if (!(ratio >= low * (1 - kSlack) && ratio <= high * (1 + kSlack))) return false;
+        ratio = std::clamp(ratio, low, high);
+        return true;
+    };
+    if (!within(l1OverL2, 0.25, 4)) return {DragStatus::FacesOutside, 0};
+    if (!within(hOverL1, 0.5, chart.topHeight)) return {DragStatus::HeightOutside, 0};
+    const double u = std::log(l1OverL2) / std::log(4.0);
+    const double v = 2 * std::log(hOverL1 / 0.5) / std::log(chart.topHeight / 0.5) - 1;
+    double ca = 0;
+    for (int i = 6; i >= 0; --i) {
+        double row = 0;
+        for (int j = 4; j >= 0; --j) row = row * v + chart.k[i][j];
+        ca = ca * u + row;
+    }
+    return {DragStatus::Read, ca};
 }
 
 int indexOf(const std::string& text, std::initializer_list<const char*> items) {

@@ -29,9 +29,9 @@ struct DragReading {
     double ca = 0;
 };
 
-// Ca of a face l1 wide, the building being l2 deep along the wind and h high.
-// The low turbulence chart covers l1/l2 in (0.25, 4] and h/l1 in (0.5, 40]; the
-// high turbulence one the same l1/l2 and h/l1 in (0.5, 6].
+// Ca of a face l1 wide across the wind, the building being l2 deep along the wind
+// and h high. The low turbulence chart covers l1/l2 in [0.25, 4] and h/l1 in
+// [0.5, 40]; the high turbulence one the same l1/l2 and h/l1 in [0.5, 6].
 DragReading DragLowTurbulence(double l1OverL2, double hOverL1);
 DragReading DragHighTurbulence(double l1OverL2, double hOverL1);
 

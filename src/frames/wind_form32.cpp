@@ -100,15 +100,17 @@ std::optional<std::array<double, 2>> dragCoefficients(const FormState& s, const 
         return std::array<double, 2>{cax, cay};
     }
     const bool high = s.option("Form32c.Option2");
-    auto read = [&](double faces, double height) {
-        const DragReading r = high ? DragHighTurbulence(faces, height) : DragLowTurbulence(faces, height);
-        checks.warnIf(r.status == DragStatus::FacesOutside, txt32::kFacesOutside)
-            .warnIf(r.status == DragStatus::HeightOutside, txt32::kHeightOutside);
-        return r.ca;
+    const auto read = [high](double faces, double height) {
+        return high ? DragHighTurbulence(faces, height) : DragLowTurbulence(faces, height);
     };
-    // The drag along x is read with A/B and H/A, the one along y with B/A and H/B.
-    const double cax = read(d.a / d.b, d.h / d.a);
-    const double cay = checks.stopped() ? 0 : read(d.b / d.a, d.h / d.b);
+    // The wind along x meets the face B wide across it, the building being A deep
+    // along it: Cax is read with l1/l2 = B/A and h/l1 = H/B; Cay the other way round.
+    const DragReading x = read(d.b / d.a, d.h / d.b), y = read(d.a / d.b, d.h / d.a);
+    // A plan outside the charts is told before a height outside them.
+    const auto either = [&](DragStatus status) { return x.status == status || y.status == status; };
+    checks.warnIf(either(DragStatus::FacesOutside), txt32::kFacesOutside)
+        .warnIf(either(DragStatus::HeightOutside), txt32::kHeightOutside);
+    const double cax = x.ca, cay = y.ca;
     if (checks.stopped()) return std::nullopt;
     // The forces use the coefficients as the boxes show them, so that the report
     // can be followed by hand.

@@ -13,6 +13,7 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include "app/about.h"
 #include "app/catalogue.h"
 #include "gui/data_paths.h"
 #include "gui/keyboard.h"
@@ -153,17 +154,21 @@ AboutWindow::AboutWindow() {
     f.setBold(true);
     f.setPointSizeF(f.pointSizeF() * 1.6);
     title->setFont(f);
-    auto* version = new QLabel(QStringLiteral("Versão 3.0"), this);
+    auto* version = new QLabel(QString::fromUtf8(kVersionCaption), this);
     auto* purpose = new QLabel(QStringLiteral("Ferramenta destinada à elaboração de projeto de estruturas de "
                                               "concreto armado, com cálculo passo a passo. Ideal para o ensino "
                                               "e para o projetista iniciante."),
                                this);
     purpose->setWordWrap(true);
     purpose->setMinimumWidth(360);
+    // The terms the program is distributed on, below what it is for.
+    auto* licence = new QLabel(QString::fromUtf8(kLicenceLine) + QLatin1Char('\n') + QString::fromUtf8(kNoWarrantyLine),
+                               this);
+    licence->setWordWrap(true);
     auto* ok = new QPushButton(QStringLiteral("OK"), this);
     ok->setObjectName(QStringLiteral("cmdOK"));
     auto* layout = new QVBoxLayout(this);
-    for (QWidget* w : std::initializer_list<QWidget*>{title, version, purpose}) layout->addWidget(w);
+    for (QWidget* w : std::initializer_list<QWidget*>{title, version, purpose, licence}) layout->addWidget(w);
     auto* row = new QHBoxLayout();
     row->addStretch(1);
     row->addWidget(ok);

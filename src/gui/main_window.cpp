@@ -9,6 +9,7 @@
 
 #include <map>
 
+#include "app/about.h"
 #include "app/module.h"
 #include "gui/keyboard.h"
 #include "gui/recent_files.h"
@@ -36,7 +37,7 @@ public:
             layout->addWidget(label);
         };
         add(QStringLiteral("MORVE"), 4.0, true, "Label1");
-        add(QStringLiteral("Versão 3.0"), 1.3, false, "Label2");
+        add(QString::fromUtf8(kVersionCaption), 1.3, false, "Label2");
         layout->addSpacing(16);
         add(QStringLiteral("Ferramenta destinada à elaboração de projeto de estruturas de concreto armado, "
                            "com cálculo passo a passo. Ideal para o ensino e para o projetista iniciante."),

@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "app/about.h"
 #include "gui/window_places.h"
 
 namespace morve {
@@ -41,7 +42,7 @@ QVBoxLayout* noticeLayout(QWidget* window, const char* name, double titleScale) 
 
 SplashWindow::SplashWindow() {
     QVBoxLayout* layout = noticeLayout(this, "Form0entra", 3.0);
-    layout->addWidget(bigLabel(QStringLiteral("Versão 3.0"), 1.2, false, this));
+    layout->addWidget(bigLabel(QString::fromUtf8(kVersionCaption), 1.2, false, this));
     layout->addSpacing(20);
     layout->addWidget(bigLabel(QStringLiteral("Carregando...Aguarde!"), 1.1, false, this));
     adjustSize();

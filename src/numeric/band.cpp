@@ -18,44 +18,6 @@ std::string bandLimitMessage(const BandSize& s) {
     return {};
 }
 
-bool BandCholesky(BandMatrix& band) {
-    const int n = band.size();
-    const int nb = band.bandwidth();
-    if (n < 1) return true;
-    if (band(1, 1) <= 0) return false;
-    // Row 1 is divided across the whole band width, even past the last equation.
-    double* first = band.row(1);
-    first[0] = std::sqrt(first[0]);
-    for (int m = 2; m <= nb; ++m) first[m - 1] /= first[0];
-    if (n == 1) {
-        // The single row goes through the last-row step as well, so its diagonal is
-        // rooted twice.
-        first[0] = std::sqrt(first[0]);
-        return true;
-    }
-    // Row i of the factor: its terms less the products of the rows above that reach
-    // it, gathered in one pass over each of those rows. The subtractions for a term
-    // come in the order of the rows above, one after another.
-    for (int i = 2; i <= n; ++i) {
-        double* acc = band.row(i);
-        const int width = std::min(nb, n - i + 1);
-        for (int k = std::max(1, i - nb + 1); k <= i - 1; ++k) {
-            const double* above = band.row(k);
-            const int offset = i - k;  // (k, i) sits at column offset + 1 of row k
-            const double c = above[offset];
-            const int reach = std::min(nb - offset, width);
-            const double* from = above + offset;
-            for (int m = 0; m < reach; ++m) acc[m] -= c * from[m];
-        }
-        const double t = acc[0];
-        if (t <= 0) return false;
-        acc[0] = std::sqrt(t);
-        const double d = acc[0];
-        for (int m = 1; m < width; ++m) acc[m] /= d;
-    }
-    return true;
-}
-
 void BandSolve(const BandMatrix& band, LoadVector& load) {
     const int n = band.size();
     const int nb = band.bandwidth();

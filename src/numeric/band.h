@@ -122,11 +122,21 @@ struct Restraint {
     int dof = 1;
 };
 
+// The share of its starting diagonal term that a row's pivot term must keep for the
+// band to be regular. A structure free to move (a mechanism) leaves, instead of a
+// zero, a pivot of the size of the round-off in its diagonal, a few parts in 1e16
+// and of either sign with the last bits of the data; a usable structure keeps far
+// more than this share. One rule for every analysis, so that a mechanism is refused
+// on every machine.
+inline constexpr double kPivotShare = 1e-9;
+
 // Factors the band in place into the upper triangular factor, row after row.
-// Returns false (singular) at the first pivot not greater than zero, leaving the
-// band half factored; no tolerance is used. With one equation the diagonal ends as
-// the fourth root of the term, as the program has always done.
-bool BandCholesky(BandMatrix& band);
+// Returns false (singular), leaving the band half factored, at the first row whose
+// pivot term, all products of the rows above taken off, is not above `tolerance`
+// times the term the row's diagonal started from; a tolerance of zero refuses only
+// pivots not greater than zero. With one equation the diagonal ends as the fourth
+// root of the term, as the program has always done.
+bool BandCholesky(BandMatrix& band, double tolerance = kPivotShare);
 // Overwrites the load vector with the solution, from a factored band.
 void BandSolve(const BandMatrix& band, LoadVector& load);
 // The semi-bandwidth from the incidences: (largest node difference in an element

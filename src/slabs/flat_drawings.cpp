@@ -128,7 +128,9 @@ Drawing flatFloorDrawing(const FlatSlab& slab, const std::vector<double>& loads)
         const FlatColumn& c = slab.columns[k];
         const double x = c.x / 100, y = c.y / 100, hx = c.hx / 200, hy = c.hy / 200;
         g.rectangle(plan(x - hx, y + hy), plan(x + hx, y - hy), colours::grey, 1, true);
-        std::string label = "P" + std::to_string(k + 1);
+        // Built by appending: GCC 12 warns falsely (-Wrestrict) of "P" + to_string(...).
+        std::string label = "P";
+        label += std::to_string(k + 1);
         if (k < loads.size()) label += " (" + formatResult(loads[k], 2) + " kN)";
         g.text({x + hx + 0.02 * margin, ly - y - hy - 0.1 * margin}, label, 8);
     }

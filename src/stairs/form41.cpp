@@ -120,8 +120,12 @@ protected:
         const std::optional<Helix> h = readHelix(s, checks);
         if (!h) return checks.outcome();
         const HelixResults r = analyseHelix(*h);
-        checks.warnIf(!r.solved && r.frame.mechanism, kStairMechanism, "Option3")
-            .warnIf(!r.solved, kStairOutOfRange, "Text5");
+        const bool mechanism = !r.solved && r.frame.mechanism;
+        checks.warnIf(mechanism && !fixedEnds(s), kStairMechanism, "Option3");
+        if (mechanism && fixedEnds(s))
+            stopNearMechanism(checks, {{"Text9", "a espessura h", s.number("Text9") / 100},
+                                       {"Text10", "a largura b", s.number("Text10")}});
+        checks.warnIf(!r.solved, kStairOutOfRange, "Text5");
         if (checks.stopped()) return checks.outcome();
         writeStairResults(s, {{kSections[0], r.base}, {kSections[1], r.top}, {kSections[2], r.centre}}, r.baseForce,
                           r.baseMoment, r.topForce, r.topMoment, r.deflection, "Text13");

@@ -112,8 +112,14 @@ protected:
         const std::optional<TwoFlights> t = readStair(s, checks);
         if (!t) return checks.outcome();
         const TwoFlightResults r = analyseTwoFlights(*t);
-        checks.warnIf(!r.solved && r.frame.mechanism, kStairMechanism, "Option3")
-            .warnIf(!r.solved, kStairOutOfRange, "Text4");
+        const bool mechanism = !r.solved && r.frame.mechanism;
+        checks.warnIf(mechanism && !fixedEnds(s), kStairMechanism, "Option3");
+        if (mechanism && fixedEnds(s))
+            stopNearMechanism(checks, {{"Text6", "o comprimento do patamar c", s.number("Text6")},
+                                       {"Text5", "a largura do lance L", s.number("Text5")},
+                                       {"Text9", "a espessura h no patamar", s.number("Text9") / 100},
+                                       {"Text10", "a espessura h no lance", s.number("Text10") / 100}});
+        checks.warnIf(!r.solved, kStairOutOfRange, "Text4");
         if (checks.stopped()) return checks.outcome();
         writeStairResults(s,
                           {{kSections[0], r.base},
@@ -141,8 +147,8 @@ protected:
         out.write("Comprimento do patamar c = ", s.text("Text6"), " m");
         out.write("Largura total do patamar b = ", s.text("Text7"), " m");
         out.write("Altura de piso a piso H = ", s.text("Text8"), " m");
-        out.write("Espessura no patamar h = ", s.text("Text9"), " cm");
-        out.write("Espessura no lance h = ", s.text("Text10"), " cm");
+        out.write("No patamar h = ", s.text("Text9"), " cm");
+        out.write("No lance h = ", s.text("Text10"), " cm");
         out.blank();
         reportStairOptions(out, s);
         out.write("Cargas (kN/m2 de projeção horizontal):");

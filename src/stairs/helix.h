@@ -9,8 +9,9 @@
 
 namespace morve {
 
-// Bars along the helix: the results at the chosen sections no longer move in their
-// displayed digits beyond this, and the model stays well inside the solver's limits.
+// Bars along the helix: doubling them moves a displayed result in about a third of
+// ordinary cases, and then by 0.01 or 0.02 in the forces; the model stays well inside
+// the solver's limits.
 inline constexpr int kHelixBars = 240;
 inline constexpr double kConcreteWeight = 25;  // kN/m3
 inline constexpr double kConcretePoisson = 0.2;

@@ -107,7 +107,18 @@ double loadBox(CheckSequence& checks, const FormState& s, const std::string& box
 
 double stairModulus(const FormState& s) { return s.number("Text2") * 1000; }
 
-void reportStairConcrete(ReportWriter& out, const FormState& s) { reportConcrete(out, s); }
+void reportStairConcrete(ReportWriter& out, const FormState& s) { reportConcrete(out, s, "fi= "); }
+
+void stopNearMechanism(CheckSequence& checks, const std::vector<StairDimension>& dimensions) {
+    if (dimensions.empty()) return;
+    const StairDimension* smallest = &dimensions.front();
+    for (const StairDimension& d : dimensions)
+        if (d.metres < smallest->metres) smallest = &d;
+    checks.warnIf(true,
+                  "A escada resulta quase instável mesmo com as extremidades engastadas: aumente " + smallest->name +
+                      ".",
+                  smallest->box);
+}
 
 void reportStairOptions(ReportWriter& out, const FormState& s) {
     out.write(clockwiseRise(s) ? "Sentido de subida: horário" : "Sentido de subida: anti-horário");

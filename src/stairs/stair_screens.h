@@ -58,6 +58,17 @@ void reportStairResults(ReportWriter& out, const FormState& s, const std::vector
 inline const std::string kStairMechanism =
     "Com estes apoios a escada não é estável: ela pode girar em torno da reta que liga os apoios. Use "
     "extremidades engastadas ou altere a geometria.";
+// A stair whose ends are fixed cannot turn about its supports, yet one dimension far
+// too small for the others leaves it so flexible that the analysis cannot tell it
+// from a mechanism. The smallest of the named dimensions (in metres) is the one to
+// change: the run stops on its box, with the message that names it.
+struct StairDimension {
+    std::string box;
+    std::string name;  // "a espessura h"
+    double metres = 0;
+};
+void stopNearMechanism(CheckSequence& checks, const std::vector<StairDimension>& dimensions);
+
 inline const std::string kStairOutOfRange =
     "Os valores fornecidos levam a resultados fora dos limites numéricos. Revise os dados.";
 

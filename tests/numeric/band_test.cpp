@@ -41,6 +41,39 @@ TEST(BandSolver, AgreesWithLapackOnRandomSpdSystems) {
     }
 }
 
+// The factor by its definition, term by term: each term less the products of the
+// rows above, taken in their order.
+BandMatrix textbookFactor(const BandMatrix& a) {
+    const int n = a.size(), nb = a.bandwidth();
+    BandMatrix u(n, nb);
+    for (int i = 1; i <= n; ++i)
+        for (int j = i; j <= std::min(i + nb - 1, n); ++j) {
+            double t = a(i, j - i + 1);
+            for (int k = std::max(1, j - nb + 1); k < i; ++k) t -= u(k, i - k + 1) * u(k, j - k + 1);
+            u(i, j - i + 1) = j == i ? std::sqrt(t) : t / u(i, 1);
+        }
+    return u;
+}
+
+TEST(BandSolver, FactorIsTheTextbookFactorForEveryShapeOfBand) {
+    // Bands narrower and wider than the equations, counts of rows that leave partial
+    // groups, widths that leave partial tiles.
+    std::mt19937 rng(13);
+    const struct { int n, nb; } sizes[] = {{7, 30}, {30, 24}, {31, 25}, {40, 33}, {101, 40},
+                                            {250, 64}, {603, 200}, {2406, 200}};
+    for (auto [n, nb] : sizes) {
+        SCOPED_TRACE(testing::Message() << "N " << n << " nb " << nb);
+        BandMatrix a = randomSpd(n, nb, rng);
+        const BandMatrix expected = textbookFactor(a);
+        ASSERT_TRUE(BandCholesky(a));
+        double worst = 0;
+        for (int i = 2; i <= n; ++i)
+            for (int j = i; j <= std::min(i + nb - 1, n); ++j)
+                worst = std::max(worst, std::abs(a(i, j - i + 1) - expected(i, j - i + 1)) / expected(i, 1));
+        EXPECT_LE(worst, 1e-12);
+    }
+}
+
 TEST(BandSolver, PivotTestAndTheSingleEquation) {
     // [[p, c, 0], [c, d, 0], [0, 0, 1]]: pivots p and d - c^2/p. A zero or negative
     // pivot in any row is singular; a tiny positive one is not.

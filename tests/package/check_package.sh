@@ -7,8 +7,8 @@
 set -u
 build=$1 source=$2 version=$3 appid=$4
 
-for tool in cpack dpkg-deb dpkg-shlibdeps desktop-file-validate appstreamcli update-mime-database groff file; do
-    command -v "$tool" >/dev/null || { echo "falta $tool: rode 'make deps' (instala desktop-file-utils, appstream, dpkg-dev...)"; exit 1; }
+for tool in cpack dpkg-deb dpkg-shlibdeps desktop-file-validate appstreamcli update-mime-database groff file lintian objdump; do
+    command -v "$tool" >/dev/null || { echo "falta $tool: rode 'make deps' (instala desktop-file-utils, appstream, dpkg-dev, lintian...)"; exit 1; }
 done
 
 work=$(mktemp -d "$build/package-check.XXXXXX")
@@ -44,9 +44,11 @@ expect=(
     /usr/share/applications/morve.desktop /usr/share/mime/packages/morve.xml
     "/usr/share/metainfo/$appid.metainfo.xml"
     /usr/share/icons/hicolor/scalable/apps/morve.svg
+    /usr/share/doc/morve/copyright /usr/share/doc/morve/changelog.gz /usr/share/lintian/overrides/morve
 )
 for size in 16 22 24 32 48 64 128 256; do expect+=("/usr/share/icons/hicolor/${size}x${size}/apps/morve.png"); done
 for f in "${expect[@]}"; do grep -qx "$f" "$work/files" || fail "falta $f"; done
+grep -q '^/usr/lib/[a-z0-9_-]*/morve/morve-render\.so$' "$work/files" || fail "falta /usr/lib/ARCH/morve/morve-render.so"
 # Everything the help and examples folders hold, nothing more, nothing less.
 count() { grep -c "^$1[^/]*[^/]$" "$work/files"; }
 [ "$(count /usr/share/morve/ajuda/)" = "$(ls "$source/data/ajuda" | wc -l)" ] || fail "páginas de ajuda: $(count /usr/share/morve/ajuda/)"
@@ -84,9 +86,38 @@ for page in morve morve-calc; do
     zcat "$root/man/man1/$page.1.gz" | grep -q '^\.SH EXIT STATUS' || fail "man $page sem EXIT STATUS"
 done
 
-# The packaged binaries are whole programs: morve-calc runs an example as installed.
-"$work/root/usr/bin/morve-calc" "$root/doc/morve/examples/form7-armadura-simples.json" >"$work/run.json" \
+# The packaged binaries are whole programs: morve-calc runs an example as installed,
+# without Qt, and finds its renderer where the package puts it when a PDF is asked for.
+calc=$work/root/usr/bin/morve-calc
+"$calc" "$root/doc/morve/examples/form7-armadura-simples.json" >"$work/run.json" \
     || fail "morve-calc do pacote não roda o exemplo"
+objdump -p "$calc" | grep -q 'NEEDED.*libQt' && fail "morve-calc carrega Qt em todo caso: $(objdump -p "$calc" | grep NEEDED)"
+"$calc" --report "$work/run.pdf" "$root/doc/morve/examples/form7-armadura-simples.json" \
+    && file -b "$work/run.pdf" | grep -q '^PDF document' || fail "morve-calc do pacote não grava PDF"
+# Copied away from its renderer, it still calculates, and says why it writes no PDF.
+mkdir -p "$work/alone" && cp "$calc" "$work/alone/"
+"$work/alone/morve-calc" "$root/doc/morve/examples/form7-armadura-simples.json" >/dev/null \
+    || fail "morve-calc sem o morve-render.so não calcula"
+"$work/alone/morve-calc" --report "$work/alone.pdf" "$root/doc/morve/examples/form7-armadura-simples.json" \
+    2>"$work/alone.log"
+[ $? -eq 2 ] && grep -q 'morve-render.so' "$work/alone.log" || fail "morve-calc sem o morve-render.so: $(cat "$work/alone.log")"
+
+# Name, version and terms, the same in both programs and in the desktop's files.
+for program in morve morve-calc; do
+    "$work/root/usr/bin/$program" --version >"$work/version" 2>&1 || fail "$program --version falhou"
+    head -n1 "$work/version" | grep -qx "$program (MORVE) $version" || fail "$program --version: $(head -n1 "$work/version")"
+    grep -q 'GPL-3.0-or-later' "$work/version" || fail "$program --version sem a licença"
+done
+grep -q "<project_license>GPL-3.0-or-later</project_license>" "$root/metainfo/$appid.metainfo.xml" || fail "AppStream sem project_license"
+grep -q "<release version=\"$version\" date=\"[0-9-]*\"/>" "$root/metainfo/$appid.metainfo.xml" || fail "AppStream sem a versão $version"
+zcat "$root/man/man1/morve.1.gz" | head -n1 | grep -q "\"MORVE $version\"" || fail "man morve sem a versão $version"
+zcat "$root/doc/morve/changelog.gz" | head -n1 | grep -q "^morve ($version) " || fail "changelog sem a versão $version"
+
+# What Debian's own checker says. Errors and warnings fail; so do the notes on
+# hardening and leftover sections, which a build with Debian's flags must not earn.
+lintian --display-info "$deb" 2>&1 | grep -v 'running with root privileges' >"$work/lintian.log"
+grep -qE '^[EW]: |: (hardening-no-[a-z]+|binary-has-unneeded-section)' "$work/lintian.log" \
+    && fail "lintian:"$'\n'"$(cat "$work/lintian.log")"
 
 [ "$failures" -eq 0 ] && echo "pacote $(basename "$deb") conferido"
 exit $((failures > 0))

@@ -95,6 +95,8 @@ TEST(Form42, ChecksReportAndTables) {
         {{{"Text8", "-0"}}, "Forneça um valor positivo para a altura de piso a piso H.", "Form42.Text8"},
         {{{"Text10", ""}}, "Forneça um valor positivo para a espessura do lance h.", "Form42.Text10"},
         {{{"Text14", "-1"}}, "A carga acidental no patamar não pode ser negativa.", "Form42.Text14"},
+        {{{"Text6", "0.01"}}, "A escada resulta quase instável mesmo com as extremidades engastadas: aumente o comprimento do patamar c.", "Form42.Text6"},
+        {{{"Text10", "0.01"}}, "A escada resulta quase instável mesmo com as extremidades engastadas: aumente a espessura h no lance.", "Form42.Text10"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.message);
@@ -111,7 +113,8 @@ TEST(Form42, ChecksReportAndTables) {
     EXPECT_EQ(reactions[1][3], reactions[2][3]);  // each support carries half
     const std::vector<std::string> lines = run.report("Form42");
     for (const char* text : {"Esforços no lance L1, onde My é máximo:", "Esforços na ligação do lance L2 com o patamar:",
-                             "Esforços no centro do patamar:", "Largura total do patamar b = 2.6 m"})
+                             "Esforços no centro do patamar:", "Largura total do patamar b = 2.6 m",
+                             "fi= 2.5", "No patamar h = 15 cm", "No lance h = 14 cm"})
         EXPECT_NE(std::find(lines.begin(), lines.end(), text), lines.end()) << text;
     EXPECT_EQ(lines.back(), "[figura]");
 }
