@@ -7,7 +7,8 @@ CMAKE_FLAGS ?= -DCMAKE_BUILD_TYPE=Release
 PACKAGES := g++ cmake ninja-build qt6-base-dev qt6-charts-dev qt6-svg-dev libqt6opengl6-dev \
             libgif-dev nlohmann-json3-dev libgtest-dev libbenchmark-dev liblapack-dev libopenblas-dev xvfb xauth poppler-utils \
             qt6-translations-l10n \
-            dpkg-dev desktop-file-utils appstream shared-mime-info librsvg2-bin groff-base file lintian
+            dpkg-dev desktop-file-utils appstream shared-mime-info librsvg2-bin groff-base file lintian \
+            libxlsxwriter-dev libdxflib-dev python3-openpyxl python3-ezdxf
 
 .PHONY: all deps configure build run test sanitize bench screenshots install package clean
 

@@ -21,7 +21,7 @@ std::vector<std::string> Module::projectFields() const {
         for (const auto& c : screen.controls)
             if (c.kind == ControlKind::TextBox || c.kind == ControlKind::List ||
                 c.kind == ControlKind::Option || c.kind == ControlKind::Check ||
-                c.kind == ControlKind::Grid)
+                (c.kind == ControlKind::Grid && !c.grid.results))
                 fields.push_back(screen.name + "." + c.name);
     return fields;
 }

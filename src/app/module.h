@@ -26,7 +26,6 @@ struct ModuleInfo {
                                        // "Início" and the close, before the module
     std::string printKey;              // report of the toolbar's "Imprimir"; "" for none
     std::string calculate = "Command1";  // the "&CALCULAR" button
-    bool files = false;                // "Abrir" and "Salvar" act
     // Commands whose run can be long, each with the status button ("Calculando...
     // Aguarde.") that the desktop shows while it runs and hides after; qualified
     // names, as "Form16.Command4" -> "Form16.Command11".
@@ -52,8 +51,9 @@ public:
     virtual Chart chart(const std::string& control, const FormState& state) const;
     // The inputs a project file keeps after the module tag, qualified and in file
     // order: boxes, list selections, options and grids (a grid as its row count,
-    // then its cells). By default every input control of every screen, in the order
-    // declared; a module with files overrides it only to choose or order them.
+    // then its cells). Every module keeps files. By default every input control of
+    // every screen, in the order declared, leaving out the tables a calculation
+    // fills; a module overrides it only to choose or order them.
     virtual std::vector<std::string> projectFields() const;
 };
 

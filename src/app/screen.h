@@ -29,6 +29,7 @@ struct GridDecl {
     int maxRows = 0;                  // the module's own limit, 0 for none
     KeyFilter filter = KeyFilter::PositiveNumber;
     bool firstColumnLocked = true;    // column 0 numbers the rows
+    bool results = false;             // filled by a calculation, not typed
     // Where columns differ (a node number beside a stiffness), each column's own
     // filter in order; columns past the list take `filter`.
     std::vector<KeyFilter> columnFilters;

@@ -154,6 +154,8 @@ Drawing detailingDrawing(const DetailingSetup& s, const FormState& state) {
     g.right = 5600;
     g.bottom = 3000;
     g.fitContent = true;
+    g.unit = DrawingUnit::Centimetre;
+    g.perCoordinate = 1 / scale;
     const double right = overall, webL = sec.webLeft, webR = sec.webLeft + sec.b;
     if (sec.bf > sec.b) {
         // The whole T: flange on top, web centred under it. The bars of the top face
@@ -165,13 +167,14 @@ Drawing detailingDrawing(const DetailingSetup& s, const FormState& state) {
         g.rectangle(at(0, 0), at(sec.b, sec.h), colours::black, 2);
     }
     const double inset = sec.cover + sec.stirrup / 20;
-    g.rectangle(at(webL + inset, inset), at(webR - inset, sec.h - inset), colours::grey, 1);
+    g.as(ShapeKind::Bars).rectangle(at(webL + inset, inset), at(webR - inset, sec.h - inset), colours::grey, 1);
     for (const FaceBars* face : {&sec.top, &sec.bottom}) {
         const Colour colour = face == &sec.top ? colours::blue : colours::red;
         for (std::size_t k = 0; k < face->counts.size(); ++k)
             for (double x : face->xs[k])
                 g.circle(at(x, face->depths[k]), face->phi / 2 * scale, colour, true);
     }
+    g.as(ShapeKind::Outline);
     // Dimension lines at 260 units from the section with their labels at 312: h
     // beside the right edge, the width of the bars' part under it, the flange over it.
     const double xr = x0 + right * scale, yb = y0 + sec.h * scale;

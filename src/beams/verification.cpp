@@ -117,13 +117,8 @@ Outcome LayeredVerification::openGrid(FormState& state, Prompter& prompter) cons
     checks.warnIf(n <= 0, "Entre com um valor positivo para n", setup_.count)
         .warnIf(n > kMaxLayers, kLayerLimit, setup_.count);
     if (checks.stopped()) return checks.outcome();
-    GridRows& rows = state.grid(grid());
-    const auto columns = rows.empty() ? std::size_t{3} : rows.front().size();
-    if (rows.size() != static_cast<std::size_t>(n) + 1) {
-        rows.resize(1);
-        rows.resize(static_cast<std::size_t>(n) + 1, std::vector<std::string>(columns));
-    }
-    for (std::size_t i = 1; i < rows.size(); ++i) rows[i][0] = std::to_string(i);
+    // The layers typed before stay; a new count adds blank layers or drops the last.
+    state.resizeGrid(grid(), static_cast<std::size_t>(n));
     return Outcome::done()
         .then(EffectKind::DisableScreen, setup_.key)
         .then(EffectKind::ShowScreen, setup_.companion);

@@ -14,6 +14,7 @@
 #include "cli/case_runner.h"
 #include "cli/project_case.h"
 #include "cli/report_file.h"
+#include "export/workbook.h"
 
 namespace {
 
@@ -21,7 +22,8 @@ const char* kUsage =
     "uso: morve-calc CASO.json\n"
     "     morve-calc --report SAIDA.pdf|SAIDA.txt [--key CHAVE] [--title TITULO] CASO.json\n"
     "     morve-calc --save SAIDA.mor CASO.json\n"
-    "     morve-calc --picture Form40d.Picture1 SAIDA.gif|SAIDA.png|SAIDA.svg CASO.json\n"
+    "     morve-calc --xlsx SAIDA.xlsx CASO.json\n"
+    "     morve-calc --picture Form40d.Picture1 SAIDA.gif|SAIDA.png|SAIDA.svg|SAIDA.dxf CASO.json\n"
     "     morve-calc --steps SAIDA.html|SAIDA.pdf CASO.json\n"
     "     morve-calc --check CASO.json...\n"
     "     morve-calc --list\n"
@@ -42,7 +44,7 @@ int listModules() {
 }  // namespace
 
 int main(int argc, char** argv) {
-    std::string casePath, stepsPath, reportPath, savePath, key, title, picture, picturePath;
+    std::string casePath, stepsPath, reportPath, savePath, xlsxPath, key, title, picture, picturePath;
     std::vector<std::string> casePaths;
     bool check = false;
     for (int i = 1; i < argc; ++i) {
@@ -67,6 +69,7 @@ int main(int argc, char** argv) {
         else if (a == "--report") reportPath = value("--report");
         else if (a == "--steps") stepsPath = value("--steps");
         else if (a == "--save") savePath = value("--save");
+        else if (a == "--xlsx") xlsxPath = value("--xlsx");
         else if (a == "--key") key = value("--key");
         else if (a == "--picture") {
             picture = value("--picture");
@@ -104,6 +107,14 @@ int main(int argc, char** argv) {
         morve::resolveCaseProject(caseFile, casePath);
         morve::CaseRun run = morve::runCase(caseFile, !stepsPath.empty());
         if (!savePath.empty()) morve::saveCaseProject(*run.session, savePath);
+        if (!xlsxPath.empty()) {
+            if (std::string error = morve::writeWorkbook(morve::resultSheets(run.session->state()), xlsxPath);
+                !error.empty()) {
+                std::cerr << "morve-calc: " << error << "\n";
+                return 2;
+            }
+            return 0;
+        }
         if (!stepsPath.empty()) {
             std::string error = morve::writeStepsFile(*run.session, stepsPath);
             if (!error.empty()) {

@@ -7,15 +7,6 @@
 
 namespace morve {
 
-namespace {
-
-void requireFiles(const ModuleSession& session) {
-    if (!session.info().files)
-        throw CaseError("o módulo " + session.info().key + " não guarda arquivos de projeto");
-}
-
-}  // namespace
-
 void resolveCaseProject(nlohmann::json& caseFile, const std::string& casePath) {
     if (!caseFile.is_object() || !caseFile.contains("open") || !caseFile.at("open").is_string()) return;
     const std::filesystem::path file = caseFile.at("open").get<std::string>();
@@ -24,13 +15,11 @@ void resolveCaseProject(nlohmann::json& caseFile, const std::string& casePath) {
 
 void openCaseProject(ModuleSession& session, const nlohmann::json& file) {
     if (!file.is_string()) throw CaseError("\"open\" deve ser o caminho de um arquivo .mor");
-    requireFiles(session);
     const ProjectResult r = openProjectFile(session.module(), file.get<std::string>(), session.state());
     if (!r.ok()) throw CaseError(r.message);
 }
 
 void saveCaseProject(const ModuleSession& session, const std::string& path) {
-    requireFiles(session);
     const ProjectResult r = saveProjectFile(session.module(), session.state(), path);
     if (!r.ok()) throw CaseError(r.message);
 }

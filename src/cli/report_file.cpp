@@ -4,6 +4,7 @@
 
 #include "app/catalogue.h"
 #include "cli/renderer.h"
+#include "export/dxf_drawing.h"
 #include "reports/report_dispatch.h"
 #include "reports/report_writer.h"
 
@@ -67,6 +68,8 @@ std::string writePictureFile(const ModuleSession& session, const std::string& pi
         return "o módulo " + session.info().key + " não tem o desenho " + picture;
     const Drawing drawing = session.module().drawing(name, state);
     if (drawing.empty()) return "o desenho " + name + " está vazio: calcule antes de gravá-lo";
+    // DXF goes without the painter: a CAD file is vectors with layers, not a picture.
+    if (path.size() > 4 && path.compare(path.size() - 4, 4, ".dxf") == 0) return writeDxf(drawing, path);
     std::string why;
     const RenderEntryPoints* renderer = loadRenderer(why);
     if (!renderer) return why;

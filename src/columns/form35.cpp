@@ -102,6 +102,7 @@ ScreenDecl resultsScreen() {
     GridDecl grid;
     grid.header = {"Situação", "ex (cm)", "ey (cm)"};
     grid.rows = 2;
+    grid.results = true;
     s.frame("Frame5", "Excentricidades totais nas situações de cálculo", 2, 0, 1, 3).grid("Grade1", grid);
     s.frame("Frame6", "", 3, 0, 1, 3)
         .command("Command1", "Ver diagrama", "Ver o diagrama das situações de cálculo")

@@ -32,13 +32,6 @@ std::vector<std::string> header(const std::string& first, bool area) {
     return h;
 }
 
-void resizeTable(GridRows& rows, double count, std::size_t columns) {
-    rows.resize(static_cast<std::size_t>(count) + 1, std::vector<std::string>(columns));
-    for (std::size_t r = 1; r < rows.size(); ++r) {
-        rows[r].resize(columns);
-        rows[r][0] = std::to_string(r);
-    }
-}
 
 std::vector<Point> readPoints(const FormState& s, const std::string& grid) {
     std::vector<Point> points;
@@ -95,8 +88,8 @@ Outcome openCoordinates(const CoordinateTables& t, FormState& s, Prompter& promp
     CheckSequence checks(prompter);
     checkCoordinateCounts(checks, t, s, false);
     if (checks.stopped()) return checks.outcome();
-    resizeTable(s.grid(t.vertexGrid()), std::floor(s.number(t.vertices)), 3);
-    resizeTable(s.grid(t.barGrid()), std::floor(s.number(t.bars)), t.barAreas ? 4 : 3);
+    s.resizeGrid(t.vertexGrid(), static_cast<std::size_t>(std::floor(s.number(t.vertices))));
+    s.resizeGrid(t.barGrid(), static_cast<std::size_t>(std::floor(s.number(t.bars))));
     return Outcome::done().then(EffectKind::HideScreen, t.module).then(EffectKind::ShowScreen, t.screen);
 }
 
@@ -251,7 +244,6 @@ ModuleInfo PolygonSectionModule::info() const {
     i.unloads.insert(i.unloads.end(), {"FormAjuda", "FormAbrir", "FormSalvar"});
     i.printKey = tables_.module;
     i.calculate = "Command4";
-    i.files = true;
     return i;
 }
 

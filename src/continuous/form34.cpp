@@ -250,7 +250,6 @@ ModuleInfo Form34::info() const {
                  "Form34f", "Form34d", "Form34e", "Form34g"};
     i.printKey = "Form34";
     i.calculate = "Command3";
-    i.files = true;
     return i;
 }
 

@@ -37,10 +37,18 @@ struct Circle { Point centre; double radius = 0; bool filled = false; };
 // middle of its height.
 struct Label { Point at; std::string text; double size = 9; TextAlign align = TextAlign::Left; };
 
+// The real length a drawing's coordinates measure, for CAD files: none for a
+// sketch without a scale.
+enum class DrawingUnit { None, Centimetre, Metre };
+
+// What a shape stands for, so that a CAD program gets it on a layer of its kind.
+enum class ShapeKind { Outline, Bars, Dimensions, Texts, Loads, Diagrams };
+
 struct Shape {
     std::variant<Line, Polyline, Circle, Label> geometry;
     Colour colour = colours::black;
     double width = 1;  // pixels
+    ShapeKind kind = ShapeKind::Outline;
 };
 
 struct Drawing {
@@ -51,8 +59,20 @@ struct Drawing {
     // case (a tall narrow section in a wide frame).
     bool fitContent = false;
     std::vector<Shape> shapes;
+    // One coordinate is `perCoordinate` of `unit`: a section drawn at a scale of its
+    // own knows how many centimetres one of its coordinates is.
+    DrawingUnit unit = DrawingUnit::None;
+    double perCoordinate = 1;
+
+    // The kind of the shapes drawn from now on; texts outside a dimension are Texts
+    // whatever the kind.
+    ShapeKind kind = ShapeKind::Outline;
 
     bool empty() const { return shapes.empty(); }
+    Drawing& as(ShapeKind k) {
+        kind = k;
+        return *this;
+    }
     Drawing& line(Point a, Point b, Colour c = colours::black, double width = 1);
     Drawing& polyline(std::vector<Point> points, bool closed, Colour c = colours::black,
                       double width = 1, bool filled = false);

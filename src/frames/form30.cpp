@@ -71,7 +71,6 @@ ModuleInfo Form30::info() const {
     i.unloads = {"FormAjuda", "FormAbrir", "FormSalvar", "Form30b", "Form30c", "Form30d"};
     i.printKey = "Form30";
     i.calculate = "Command3";
-    i.files = true;
     return i;
 }
 

@@ -182,7 +182,6 @@ ModuleInfo Form33::info() const {
                  "Form33e", "Form33d",   "Form33c",    "Form33b"};
     i.printKey = "Form33";
     i.calculate = "Command3";
-    i.files = true;
     // A tall frame with infill repeats the whole analysis until no panel is overstressed.
     i.busy = {{"Form33.Command3", "Form33.Command13"}};
     return i;

@@ -31,6 +31,7 @@ std::optional<FrameModel> outlineOf(const FormState& s, const std::string& heigh
 // shaded against the axis, with the end values written and the title above.
 Drawing barDiagram(const std::string& title, const std::string& bar, double length, double start, double end) {
     Drawing d;
+    d.unit = DrawingUnit::Metre;
     const double peak = std::max({std::abs(start), std::abs(end), 1e-12});
     const double scale = 0.3 * length / peak;
     // Positive values are drawn below the axis, on the face they put in tension.
@@ -41,9 +42,9 @@ Drawing barDiagram(const std::string& title, const std::string& bar, double leng
     d.bottom = 0.5 * length;
     d.text({length / 2, -0.47 * length}, title, 10, TextAlign::Centre);
     d.text({length / 2, 0.44 * length}, bar, 9, TextAlign::Centre, colours::grey);
-    d.polyline({a, pa, pb, b}, true, Colour{200, 215, 245}, 1, true);
+    d.as(ShapeKind::Diagrams).polyline({a, pa, pb, b}, true, Colour{200, 215, 245}, 1, true);
     d.polyline({a, pa, pb, b}, true, colours::blue, 1.5);
-    d.line(a, b, colours::black, 2);
+    d.as(ShapeKind::Outline).line(a, b, colours::black, 2);
     d.text({0, start * scale + (start >= 0 ? 0.06 : -0.06) * length}, formatResult(start, 2), 9, TextAlign::Left);
     d.text({length, end * scale + (end >= 0 ? 0.06 : -0.06) * length}, formatResult(end, 2), 9, TextAlign::Right);
     return d;
@@ -61,6 +62,7 @@ std::optional<FrameModel> frameOutline(const FormState& s, const FrameScreens& s
 
 Drawing framePicture(const FrameModel& m, const std::vector<double>& forces) {
     Drawing d;
+    d.unit = DrawingUnit::Metre;
     const double width = m.position(m.lines()).x, height = m.levelHeight(m.levels());
     const double size = std::max(width, height), arrow = 0.08 * size;
     d.left = -0.2 * size;
@@ -82,6 +84,7 @@ Drawing framePicture(const FrameModel& m, const std::vector<double>& forces) {
         const Point base = at(j);
         d.line({base.x - 0.03 * size, 0}, {base.x + 0.03 * size, 0}, colours::grey, 3);
     }
+    d.as(ShapeKind::Loads);
     for (int i = 1; i <= m.levels(); ++i) {
         const double f = forces[static_cast<std::size_t>(i - 1)];
         if (f == 0) continue;

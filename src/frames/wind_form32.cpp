@@ -4,6 +4,7 @@
 #include <cmath>
 #include <optional>
 
+#include "app/grid_tables.h"
 #include "app/numbers.h"
 #include "basis/checks.h"
 #include "frames/wind_drag.h"
@@ -25,33 +26,15 @@ enum PanelColumn { kX = 1, kY, kInclination, kStiffness };
 // Results the screens do not show but the report prints.
 const std::string kFxVar = "Form32.Fx", kFyVar = "Form32.Fy";
 
-// A count typed in a box, truncated; far values stay far, without overflow.
-int countIn(const FormState& s, const std::string& box) {
-    const double v = s.number(box);
-    if (!(std::abs(v) < 1e6)) return v < 0 ? -1000000 : 1000000;
-    return static_cast<int>(std::trunc(v));
-}
 
 int panelRows(const FormState& s) { return std::max(0, static_cast<int>(s.grid(kPanels).size()) - 1); }
-
-// The panel table takes n rows; what was typed in the rows that stay is kept.
-void sizePanelTable(FormState& s, int n) {
-    GridRows& g = s.grid(kPanels);
-    const std::size_t columns = s.declaration(kPanels)->grid.header.size();
-    if (g.empty()) g.push_back(s.declaration(kPanels)->grid.header);
-    g.resize(static_cast<std::size_t>(n) + 1, std::vector<std::string>(columns, " "));
-    for (std::size_t r = 1; r < g.size(); ++r) {
-        g[r].resize(columns, " ");
-        g[r][0] = std::to_string(r);
-    }
-}
 
 Outcome panelData(FormState& s, Prompter& prompter) {
     const int n = countIn(s, "Text2");
     CheckSequence checks(prompter);
     checks.warnIf(n <= 0, txt32::kPanelCount, "Form32.Text2").warnIf(n > kMaxPanels, txt32::kMaxPanels, "Form32.Text2");
     if (checks.stopped()) return checks.outcome();
-    sizePanelTable(s, n);
+    sizeTable(s, kPanels, n, true);
     return switchTo("Form32", "Form32b");
 }
 
@@ -188,7 +171,6 @@ ModuleInfo Form32::info() const {
     i.unloads = {"FormAjuda", "FormAbrir", "FormSalvar", "Form32b", "Form32c"};
     i.printKey = "Form32";
     i.calculate = "Command3";
-    i.files = true;
     return i;
 }
 

@@ -12,6 +12,7 @@
 #include "gui/morve_app.h"
 #include "gui/project_dialogs.h"
 #include "gui/qt_texts.h"
+#include "gui/recovery_keeper.h"
 #include "gui/screenshots.h"
 #include "gui/startup_timing.h"
 
@@ -59,6 +60,9 @@ int main(int argc, char** argv) {
 
     if (timing) morve::reportStartupTiming(qapp);
     morve::MorveApp app(options);
-    if (project.isEmpty() || !morve::startWithProject(app, project)) app.start();
+    // Data a crash left behind come first: a new session would write over them. A
+    // timed start asks nothing.
+    const bool recovered = !timing && morve::offerRecovery(app);
+    if (!recovered && (project.isEmpty() || !morve::startWithProject(app, project))) app.start();
     return QApplication::exec();
 }

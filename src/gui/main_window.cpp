@@ -12,6 +12,7 @@
 #include "app/about.h"
 #include "app/module.h"
 #include "gui/keyboard.h"
+#include "gui/recent_files.h"
 
 namespace morve {
 
@@ -104,6 +105,11 @@ MainWindow::MainWindow() {
             if (onModule) onModule(module);
         });
     }
+    QMenu* recent = menuBar()->addMenu(QStringLiteral("Arquivos recentes"));
+    recent->setObjectName(QStringLiteral("recentes"));
+    fillRecentMenu(recent, [this](const QString& path) {
+        if (onRecentFile) onRecentFile(path);
+    });
     QMenu* help = menuBar()->addMenu(QString::fromStdString(ModuleCatalogue::menuCaption("ajuda")));
     help->setObjectName(QStringLiteral("ajuda"));
     for (const HelpMenuEntry& entry : ModuleCatalogue::helpMenu()) {

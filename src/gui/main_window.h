@@ -21,6 +21,7 @@ public:
     std::function<void(const std::string& module)> onModule;
     std::function<void(const HelpMenuEntry& entry)> onHelp;
     std::function<void()> onClose;
+    std::function<void(const QString& path)> onRecentFile;
 
 protected:
     void closeEvent(QCloseEvent* event) override;

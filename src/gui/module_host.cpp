@@ -110,6 +110,8 @@ void ModuleHost::unloadAll() {
 
 Outcome ModuleHost::press(const std::string& screen, const std::string& command) {
     for (auto& [name, w] : windows_) w->storeTo(session_.state());
+    if (onCalculate && session_.state().qualify(command) == session_.state().qualify(session_.info().calculate))
+        onCalculate();
     // Before any box the windows show what the calculation has written so far.
     SyncingPrompter prompter(guiPrompter(), [this] {
         for (auto& [name, w] : windows_) w->loadFrom(session_.state());
@@ -249,15 +251,19 @@ void ModuleHost::toolbar(const std::string& screen, const std::string& key) {
         shell_.showModuleHelp(helpPage());
     } else if (key == "Sair") {
         shell_.askExit();
-    } else if (key == "Abrir" && session_.info().files) {
+    } else if (key == "Abrir") {
         openProjectFromDialog(*this, w);
-    } else if (key == "Salvar" && session_.info().files) {
+    } else if (key == "Salvar") {
         saveProjectFromDialog(*this, w);
     }
 }
 
 void ModuleHost::storeWindows() {
     for (auto& [name, w] : windows_) w->storeTo(session_.state());
+}
+
+void ModuleHost::storeWindowsTo(FormState& state) const {
+    for (const auto& [name, w] : windows_) w->storeTo(state);
 }
 
 void ModuleHost::refreshWindows() {

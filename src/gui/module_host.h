@@ -6,6 +6,7 @@
 // goes where the module says.
 #include <QObject>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -55,6 +56,10 @@ public:
     // The texts typed in the windows go to the state; after the state changed
     // outside a command (a project file opened), the windows show it again.
     void storeWindows();
+    // The same into another state, leaving the module's as it is.
+    void storeWindowsTo(FormState& state) const;
+    // Called before "CALCULAR" runs, with the typed texts stored.
+    std::function<void()> onCalculate;
     void refreshWindows();
 
 private:

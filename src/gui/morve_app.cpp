@@ -7,10 +7,13 @@
 #include "gui/gui_prompter.h"
 #include "gui/help_windows.h"
 #include "gui/main_window.h"
+#include "gui/recent_files.h"
+#include "gui/recovery_keeper.h"
 #include "gui/report_panel.h"
 #include "gui/screen_window.h"
 #include "gui/start_windows.h"
 #include "gui/window_places.h"
+#include "reports/recovery_file.h"
 
 namespace morve {
 
@@ -27,6 +30,7 @@ MorveApp::MorveApp(AppOptions options) : options_(options) {
     menu_->onModule = [this](const std::string& key) { openModule(key); };
     menu_->onHelp = [this](const HelpMenuEntry& entry) { helpMenu(entry); };
     menu_->onClose = [this] { shutdown(); };
+    menu_->onRecentFile = [this](const QString& path) { openRecentFile(*this, path); };
     backdrop_ = new Backdrop();
     tip_ = new TipWindow();
     ajuda_ = new HelpPageWindow("FormAjuda");
@@ -124,6 +128,7 @@ void MorveApp::openModule(const std::string& key) {
     host_ = std::unique_ptr<ModuleHost, void (*)(ModuleHost*)>(new ModuleHost(*module, defaults_, *this),
                                                                deleteHostLater);
     host_->open();
+    new RecoveryKeeper(*host_);
     menu_->hide();
 }
 
@@ -138,6 +143,11 @@ void MorveApp::closeModule() {
         report_->close();
     }
     closeModuleHelp();
+    // A module closed as the user closes it leaves nothing to recover.
+    if (host_) {
+        RecoveryKeeper::finish();
+        removeRecoveryFile();
+    }
     if (host_) host_->unloadAll();
     host_.reset();
 }

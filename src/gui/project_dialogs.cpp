@@ -10,6 +10,7 @@
 #include "gui/gui_prompter.h"
 #include "gui/module_host.h"
 #include "gui/morve_app.h"
+#include "gui/recent_files.h"
 #include "reports/project_file.h"
 
 namespace morve {
@@ -69,6 +70,7 @@ bool openProjectInto(ModuleHost& host, const std::string& path) {
         return false;
     }
     host.refreshWindows();
+    noteRecentFile(QFile::decodeName(path.c_str()));
     return true;
 }
 
@@ -76,8 +78,12 @@ bool saveProjectFrom(ModuleHost& host, const std::string& path) {
     // The file keeps what the boxes show, typed since the last command or not.
     host.storeWindows();
     const ProjectResult r = saveProjectFile(host.session().module(), host.session().state(), path);
-    if (!r.ok()) guiPrompter().warn(r.message);
-    return r.ok();
+    if (!r.ok()) {
+        guiPrompter().warn(r.message);
+        return false;
+    }
+    noteRecentFile(QFile::decodeName(path.c_str()));
+    return true;
 }
 
 void openProjectFromDialog(ModuleHost& host, QWidget* parent) {
@@ -112,7 +118,7 @@ bool startWithProject(MorveApp& app, const QString& path) {
     }
     const std::string key = projectFileTag(file);
     const Module* module = ModuleRegistry::find(key);
-    if (!module || !module->info().files) {
+    if (!module) {
         guiPrompter().warn("O arquivo " + path.toStdString() + " não é um arquivo de projeto do MORVE.");
         return false;
     }

@@ -19,6 +19,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "gui/grid_export.h"
 #include "gui/gui_prompter.h"
 #include "gui/key_filter_guard.h"
 #include "gui/keyboard.h"
@@ -113,7 +114,8 @@ ReportPanel::ReportPanel(std::string key, const Module& module, const FormState&
     layout->addWidget(label2_, 1, 0);
     layout->addWidget(text1_, 1, 1);
     auto* buttons = new QHBoxLayout();
-    for (QPushButton* b : {command1_, command2_, command7_, command3_}) buttons->addWidget(b);
+    for (QPushButton* b : {command1_, command2_, command7_, resultsWorkbookButton(this, state_), command3_})
+        buttons->addWidget(b);
     layout->addLayout(buttons, 2, 0, 1, 4);
     layout->addWidget(savedNote_, 4, 0, 1, 4);
 

@@ -8,6 +8,7 @@
 #include <QPrinter>
 #include <QRegularExpression>
 
+#include "export/dxf_drawing.h"
 #include "render/drawing_export.h"
 #include "render/drawing_painter.h"
 
@@ -15,7 +16,7 @@ namespace morve {
 
 QStringList pictureNameFilters() {
     return {QStringLiteral("Desenho GIF (*.gif)"), QStringLiteral("Desenho PNG (*.png)"),
-            QStringLiteral("Desenho SVG (*.svg)")};
+            QStringLiteral("Desenho SVG (*.svg)"), QStringLiteral("Desenho DXF (*.dxf)")};
 }
 
 QString picturePath(const QString& chosen, const QString& nameFilter) {
@@ -46,9 +47,12 @@ QFileDialog* pictureDialog(QWidget* parent) {
 std::string savePicture(QWidget* parent, const Drawing& drawing, QSize size) {
     QFileDialog* dialog = pictureDialog(parent);
     std::string outcome;
-    if (dialog->exec() == QDialog::Accepted && !dialog->selectedFiles().isEmpty())
-        outcome = exportDrawing(drawing, picturePath(dialog->selectedFiles().first(), dialog->selectedNameFilter()),
-                                size);
+    if (dialog->exec() == QDialog::Accepted && !dialog->selectedFiles().isEmpty()) {
+        const QString path = picturePath(dialog->selectedFiles().first(), dialog->selectedNameFilter());
+        // A CAD file is vectors on layers in real units, not a painted picture.
+        outcome = path.endsWith(QStringLiteral(".dxf")) ? writeDxf(drawing, QFile::encodeName(path).toStdString())
+                                                        : exportDrawing(drawing, path, size);
+    }
     dialog->deleteLater();
     return outcome;
 }

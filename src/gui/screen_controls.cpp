@@ -11,6 +11,7 @@
 
 #include "gui/control_widgets.h"
 #include "gui/grid_editing.h"
+#include "gui/grid_export.h"
 #include "gui/key_filter_guard.h"
 #include "gui/picture_views.h"
 #include "gui/screen_window.h"
@@ -143,6 +144,7 @@ ScreenWindow::ControlParts ScreenWindow::makeControl(const ControlDecl& c, const
             table->setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::DoubleClicked |
                                    QAbstractItemView::EditKeyPressed | QAbstractItemView::SelectedClicked);
             makeSpreadsheet(table, c);
+            offerSpreadsheetExport(table, q(decl_.name + "." + c.name));
             table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
             table->setMinimumHeight(kGridMinimumHeight);
             parts.widget = table;

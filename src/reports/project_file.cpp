@@ -13,6 +13,8 @@
 #include <unistd.h>
 
 #include "app/module.h"
+#include "app/outcome.h"
+#include "reports/atomic_file.h"
 
 namespace morve {
 
@@ -284,18 +286,6 @@ private:
 
 // ---- the file system ----
 
-std::string reasonOf(int error) {
-    switch (error) {
-        case EACCES:
-        case EPERM: return "sem permissão de escrita";
-        case ENOENT:
-        case ENOTDIR: return "a pasta não existe";
-        case ENOSPC: return "o disco está cheio";
-        case EROFS: return "o disco é somente de leitura";
-        default: return std::strerror(error);
-    }
-}
-
 bool readWholeFile(const std::string& path, std::string& text) {
     std::ifstream in(path, std::ios::binary);
     if (!in) return false;
@@ -305,27 +295,24 @@ bool readWholeFile(const std::string& path, std::string& text) {
     return !in.bad();
 }
 
-bool writeAll(int fd, const std::string& text) {
-    std::size_t done = 0;
-    while (done < text.size()) {
-        const ssize_t n = ::write(fd, text.data() + done, text.size() - done);
-        if (n < 0) {
-            if (errno == EINTR) continue;
-            return false;
+// The results on screen belong to the case before the file: a report printed now
+// would set them beside the new inputs. Result boxes and tables the file does not
+// keep are emptied (a table keeps its row names), and "Imprimir" waits for the
+// next "CALCULAR".
+void blankResults(const Module& module, FormState& state) {
+    const std::vector<std::string> kept = module.projectFields();
+    for (const ScreenDecl& screen : state.screens()) {
+        for (const ControlDecl& c : screen.controls) {
+            const std::string name = screen.name + "." + c.name;
+            if (std::find(kept.begin(), kept.end(), name) != kept.end()) continue;
+            if (c.kind == ControlKind::ResultBox) state.setText(name, "");
+            if (c.kind != ControlKind::Grid) continue;
+            GridRows& rows = state.grid(name);
+            for (std::size_t r = 1; r < rows.size(); ++r)
+                for (std::size_t k = 1; k < rows[r].size(); ++k) rows[r][k].clear();
         }
-        done += static_cast<std::size_t>(n);
     }
-    return true;
-}
-
-// A new file gets the permissions any program of the user would give it; a file
-// saved over keeps its own.
-mode_t modeFor(const std::string& path) {
-    struct stat st {};
-    if (::stat(path.c_str(), &st) == 0) return st.st_mode & 07777;
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    return 0666 & ~mask;
+    state.setEnabled(printButton(module.info().key), false);
 }
 
 }  // namespace
@@ -374,35 +361,19 @@ ProjectResult readProjectText(const Module& module, const std::string& text, For
     }
     if (parsed.unfinished) return {reader.incomplete() + kKept};
     if (std::string rest = reader.rest(); !rest.empty()) return {rest + kKept};
+    blankResults(module, copy);
     state = std::move(copy);
     return {};
 }
 
 ProjectResult saveProjectFile(const Module& module, const FormState& state, const std::string& path) {
-    const std::string text = writeProjectText(module, state);
-    const std::filesystem::path target(path);
-    const std::filesystem::path folder = target.has_parent_path() ? target.parent_path() : ".";
-    // Hidden, beside the target: the rename stays within one file system.
-    std::string leaf = target.filename().string();
-    leaf.insert(0, 1, '.');
-    std::string temporary = (folder / (leaf + ".XXXXXX")).string();
-    const auto failed = [&](int error) {
-        return ProjectResult{"Não foi possível salvar o arquivo " + path + ": " + reasonOf(error) + "."};
-    };
-    const int fd = ::mkstemp(temporary.data());
-    if (fd < 0) return failed(errno);
-    const bool written = writeAll(fd, text) && ::fchmod(fd, modeFor(path)) == 0 && ::fsync(fd) == 0;
-    const int writeError = errno;
-    if (::close(fd) != 0 || !written) {
-        ::unlink(temporary.c_str());
-        return failed(written ? errno : writeError);
-    }
-    if (::rename(temporary.c_str(), path.c_str()) != 0) {
-        const int error = errno;
-        ::unlink(temporary.c_str());
-        return failed(error);
-    }
-    return {};
+    return saveProjectText(writeProjectText(module, state), path);
+}
+
+ProjectResult saveProjectText(const std::string& text, const std::string& path) {
+    const std::string failed = replaceFileWithText(path, text);
+    if (failed.empty()) return {};
+    return {"Não foi possível salvar o arquivo " + path + ": " + failed + "."};
 }
 
 ProjectResult openProjectFile(const Module& module, const std::string& path, FormState& state) {

@@ -29,12 +29,15 @@ struct ProjectResult {
 // The text of the project file of a module's current inputs.
 std::string writeProjectText(const Module& module, const FormState& state);
 // Reads a project file's text into the module's state; a refused text leaves the
-// state exactly as it was.
+// state exactly as it was. A read file blanks the results of the case before it
+// and disables "Imprimir" until the next calculation.
 ProjectResult readProjectText(const Module& module, const std::string& text, FormState& state);
 
 // Saving writes a temporary file beside the target and renames it over the target,
 // so an interrupted save never leaves half a project under the user's name.
 ProjectResult saveProjectFile(const Module& module, const FormState& state, const std::string& path);
+// The same for a text already written, so that the writing can go to another thread.
+ProjectResult saveProjectText(const std::string& text, const std::string& path);
 ProjectResult openProjectFile(const Module& module, const std::string& path, FormState& state);
 
 // The module tag a file starts with ("" when it has none): which module opens it.

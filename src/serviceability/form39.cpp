@@ -136,16 +136,9 @@ Outcome openLoadTables(FormState& s, Prompter& prompter) {
         .warnIf(uniform > kMaxLoads, "Este programa está limitado ao máximo de 20 segmentos de carga uniforme.",
                 "Text7");
     if (checks.stopped()) return checks.outcome();
-    // Rows already typed are kept when the count is unchanged.
+    // Rows already typed are kept; a new count adds blank rows or drops the last ones.
     auto size = [&](const std::string& grid, double n) {
-        GridRows& rows = s.grid(grid);
-        const auto wanted = static_cast<std::size_t>(std::max(0.0, n)) + 1;
-        if (rows.size() != wanted) {
-            const auto columns = rows.front().size();
-            rows.resize(1);
-            rows.resize(wanted, std::vector<std::string>(columns));
-        }
-        for (std::size_t i = 1; i < rows.size(); ++i) rows[i][0] = std::to_string(i);
+        s.resizeGrid(grid, static_cast<std::size_t>(std::max(0.0, n)));
     };
     size(kUniformGrid, uniform);
     size(kPointGrid, points);

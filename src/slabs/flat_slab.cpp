@@ -57,16 +57,7 @@ int rowsOf(const FormState& s, const std::string& grid) {
 
 // The column tables take n rows, keeping what was typed in the rows that stay.
 void sizeColumnTables(FormState& s, int n) {
-    for (const std::string& name : {kCentres, kSections}) {
-        GridRows& g = s.grid(name);
-        const std::vector<std::string>& header = s.declaration(name)->grid.header;
-        if (g.empty()) g.push_back(header);
-        g.resize(static_cast<std::size_t>(n) + 1, std::vector<std::string>(header.size(), ""));
-        for (std::size_t r = 1; r < g.size(); ++r) {
-            g[r].resize(header.size());
-            g[r][0] = std::to_string(r);
-        }
-    }
+    for (const std::string& name : {kCentres, kSections}) s.resizeGrid(name, static_cast<std::size_t>(n));
 }
 
 // The columns as typed, centres turned to cm.
@@ -244,7 +235,6 @@ ModuleInfo Form40::info() const {
     i.unloads = {"Form40d", "Form40c", "Form40b", "FormAjuda", "FormAbrir", "FormSalvar"};
     i.printKey = "Form40";
     i.calculate = "Command3";
-    i.files = true;
     i.busy = {{"Form40.Command3", "Form40.Command13"}};
     return i;
 }

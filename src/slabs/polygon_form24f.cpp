@@ -44,17 +44,6 @@ void checkVertexCount(CheckSequence& checks, double n) {
     checks.warnIf(n < 3, kFewVertices, "Text6").warnIf(n >= 30, kManyVertices, "Text6");
 }
 
-void sizeTable(FormState& s, const std::string& grid, int rows) {
-    GridRows& g = s.grid(grid);
-    const std::size_t columns = s.declaration(grid)->grid.header.size();
-    if (g.empty()) g.push_back(s.declaration(grid)->grid.header);
-    g.resize(static_cast<std::size_t>(rows) + 1, std::vector<std::string>(columns, ""));
-    for (std::size_t r = 1; r < g.size(); ++r) {
-        g[r].resize(columns, "");
-        g[r][0] = std::to_string(r);
-    }
-}
-
 void cutCells(FormState& s, const std::string& grid) {
     for (auto& row : s.grid(grid))
         for (auto& cell : row)
@@ -75,8 +64,8 @@ Outcome enterVertices(FormState& s, Prompter& prompter) {
     const double n = vertexCount(s);
     checkVertexCount(checks, n);
     if (checks.stopped()) return checks.outcome();
-    sizeTable(s, kPolygonVertices, static_cast<int>(n));
-    sizeTable(s, kPolygonSides, static_cast<int>(n));
+    s.resizeGrid(kPolygonVertices, static_cast<std::size_t>(n));
+    s.resizeGrid(kPolygonSides, static_cast<std::size_t>(n));
     return dropMesh(Outcome::done()).then(EffectKind::ShowScreen, "Form24g");
 }
 
@@ -263,7 +252,6 @@ public:
         i.key = "Form24f";
         i.unloads = {"Form24h", "FormAjuda", "FormAbrir", "FormSalvar", "Form24g", "Form24j"};
         i.printKey = "Form24f";
-        i.files = true;
         // Both the mesh and the grillage of a fine mesh take a while.
         i.busy = {{"Form24f.Command7", "Form24f.Command13"}, {"Form24f.Command1", "Form24f.Command13"}};
         return i;

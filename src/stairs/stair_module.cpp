@@ -11,7 +11,6 @@ ModuleInfo StairModule::info() const {
     i.key = layout_.key;
     i.unloads = {"FormAjuda", "FormAbrir", "FormSalvar", layout_.key + "b"};
     i.printKey = layout_.key;
-    i.files = true;
     return i;
 }
 

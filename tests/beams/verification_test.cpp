@@ -102,7 +102,7 @@ TEST(Form11Verification, SmallSteelKeepsTheBlockInTheFlange) {
     EXPECT_NEAR(t.number("Text9"), 89.24, 0.03);
 }
 
-TEST(LayerGrid, OpensWithNPlusOneRowsAndKeepsThemWhenNStays) {
+TEST(LayerGrid, OpensWithNPlusOneRowsAndKeepsTheTypedOnes) {
     BeamRun v("Form9");
     v.set({{"Text6", "3"}});
     Outcome o = v.press("Command3");
@@ -120,6 +120,6 @@ TEST(LayerGrid, OpensWithNPlusOneRowsAndKeepsThemWhenNStays) {
     v.press("Form9b.Command2");
     v.set({{"Text6", "2"}}).press("Command3");
     EXPECT_EQ(v.session.state().grid("Form9b.Grade1").size(), 3u);
-    EXPECT_EQ(v.session.state().cell("Form9b.Grade1", 1, 1), "");
+    EXPECT_EQ(v.session.state().cell("Form9b.Grade1", 1, 1), "1234567890") << "a new count keeps the layers typed";
 
 }

@@ -1,6 +1,9 @@
-// Project files through morve-calc: --save and "open" of a continuous beam, and
-// modules without files refused with exit status 2.
+// Project files through morve-calc: --save and "open" of every example, and a file
+// of another module refused with exit status 2.
 #include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
 
 #include <nlohmann/json.hpp>
 
@@ -8,12 +11,44 @@
 
 using nlohmann::json;
 
-TEST(MorveCalcProject, AModuleWithoutFilesRefusesOpenAndSave) {
-    for (const std::string& args : {"--save /tmp/morve-calc-test.mor " + writeCase("plain", R"({"module": "Form12"})"),
-                                    writeCase("plain-open", R"({"module": "Form12", "open": "x.mor"})")}) {
-        CalcResult r = runCalc(args);
-        EXPECT_EQ(r.status, 2);
-        EXPECT_NE(r.out.find("o módulo Form12 não guarda arquivos de projeto"), std::string::npos) << r.out;
+namespace {
+
+std::string projectModule(const std::string& path) {
+    std::string tag;
+    std::getline(std::ifstream(path), tag);
+    return tag.substr(1, tag.find('"', 1) - 1);
+}
+
+}  // namespace
+
+// Every example, saved after its presses, opens in a case of its own and saves to
+// the same bytes; a file opened by another module stops the case with status 2.
+TEST(MorveCalcProject, EveryExampleSavesAndOpensToTheSameFile) {
+    namespace fs = std::filesystem;
+    const fs::path dir = fs::temp_directory_path() / "morve-calc-project-walk";
+    fs::remove_all(dir);
+    fs::create_directories(dir);
+    std::string previous;
+    for (const auto& entry : fs::directory_iterator(MORVE_EXAMPLES)) {
+        if (entry.path().extension() != ".json") continue;
+        const std::string stem = entry.path().stem().string(), first = (dir / (stem + ".mor")).string();
+        const std::string module = json::parse(std::ifstream(entry.path())).value("module", "");
+        CalcResult saved = runCalc("--save " + first + " " + entry.path().string());
+        ASSERT_EQ(saved.status, 0) << stem << saved.out;
+        const std::string again = (dir / (stem + "-2.mor")).string();
+        CalcResult reopened = runCalc("--save " + again + " " +
+                                      writeCase("walk", json{{"module", module}, {"open", first}}.dump()));
+        ASSERT_EQ(reopened.status, 0) << stem << reopened.out;
+        std::stringstream a, b;
+        a << std::ifstream(first, std::ios::binary).rdbuf();
+        b << std::ifstream(again, std::ios::binary).rdbuf();
+        EXPECT_EQ(a.str(), b.str()) << stem;
+        if (!previous.empty() && projectModule(previous) != module) {
+            CalcResult refused = runCalc(writeCase("walk", json{{"module", module}, {"open", previous}}.dump()));
+            EXPECT_EQ(refused.status, 2) << stem;
+            EXPECT_NE(refused.out.find("não corresponde ao módulo atual"), std::string::npos) << refused.out;
+        }
+        previous = first;
     }
 }
 

@@ -57,7 +57,7 @@ private slots:
         MainWindow menu;
         QMenuBar* bar = menu.menuBar();
         QCOMPARE(captions(bar->actions()), QStringList({"    Lajes maciças", "Vigas", "Pilares", "Tirantes",
-                                                        "Escadas", "Ajuda"}));
+                                                        "Escadas", "Arquivos recentes", "Ajuda"}));
         // Each leaf under its path, in the catalogue's order within its menu.
         std::map<QMenu*, QStringList> leaves;
         for (const CatalogueRow& row : ModuleCatalogue::rows()) {

@@ -9,7 +9,6 @@ public:
     morve::ModuleInfo info() const override {
         morve::ModuleInfo i;
         i.key = "Form90";
-        i.files = true;
         return i;
     }
     std::vector<morve::ScreenDecl> screens() const override {
