@@ -5,6 +5,7 @@ namespace morve {
 Drawing rectangularSectionSketch() {
     // A 20 x 40 section drawn in its own centimetres, with room for the labels.
     Drawing g;
+    g.unit = DrawingUnit::Centimetre;
     g.left = -9;
     g.top = -5;
     g.right = 33;
@@ -12,6 +13,7 @@ Drawing rectangularSectionSketch() {
     g.rectangle({0, 0}, {20, 40}, colours::black, 2);
     g.rectangle({0, 0}, {20, 40}, colours::lightGrey, 1, true);
     g.rectangle({0, 0}, {20, 40}, colours::black, 2);
+    g.as(ShapeKind::Bars);
     for (double x : {4.0, 10.0, 16.0}) {
         g.circle({x, 4}, 1.2, colours::blue, true);
         g.circle({x, 36}, 1.6, colours::red, true);

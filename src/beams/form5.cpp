@@ -144,13 +144,14 @@ Drawing Form5::drawing(const std::string& picture, const FormState&) const {
     if (picture != "Form5.Picture1" && picture != "Picture1") return {};
     // A 20 x 40 beam cut across, its two-legged stirrup and the shear it carries.
     Drawing g;
+    g.unit = DrawingUnit::Centimetre;
     g.left = -9;
     g.top = -6;
     g.right = 33;
     g.bottom = 47;
     g.rectangle({0, 0}, {20, 40}, colours::lightGrey, 1, true);
     g.rectangle({0, 0}, {20, 40}, colours::black, 2);
-    g.rectangle({2.5, 2.5}, {17.5, 37.5}, colours::blue, 2);
+    g.as(ShapeKind::Bars).rectangle({2.5, 2.5}, {17.5, 37.5}, colours::blue, 2);
     for (double x : {4.0, 16.0}) {
         g.circle({x, 4}, 1.0, colours::black, true);
         g.circle({x, 36}, 1.4, colours::black, true);
@@ -158,7 +159,7 @@ Drawing Form5::drawing(const std::string& picture, const FormState&) const {
     g.text({10, 20}, "Asw", 9, TextAlign::Centre, colours::blue);
     g.dimension({0, 43}, {20, 43}, "bw", 0, 2.5);
     g.dimension({-4, 0}, {-4, 36}, "d", -2.5, 0);
-    g.line({27, 8}, {27, 32}, colours::red, 2);
+    g.as(ShapeKind::Loads).line({27, 8}, {27, 32}, colours::red, 2);
     g.polyline({{25.5, 29}, {27, 32}, {28.5, 29}}, false, colours::red, 2);
     g.text({29, 18}, "Vk", 9, TextAlign::Left, colours::red);
     return g;

@@ -321,6 +321,7 @@ Drawing Form6::drawing(const std::string& picture, const FormState&) const {
     // A 25 x 40 section with the wall of the equivalent hollow section through the
     // corner bars, the bars at d' from the faces and the torque about the axis.
     Drawing g;
+    g.unit = DrawingUnit::Centimetre;
     g.left = -10;
     g.top = -8;
     g.right = 38;
@@ -328,7 +329,7 @@ Drawing Form6::drawing(const std::string& picture, const FormState&) const {
     g.rectangle({0, 0}, {25, 40}, colours::lightGrey, 1, true);
     g.rectangle({0, 0}, {25, 40}, colours::black, 2);
     g.rectangle({4, 4}, {21, 36}, colours::grey, 1);
-    g.rectangle({2.5, 2.5}, {22.5, 37.5}, colours::blue, 2);
+    g.as(ShapeKind::Bars).rectangle({2.5, 2.5}, {22.5, 37.5}, colours::blue, 2);
     for (double x : {4.0, 12.5, 21.0}) {
         g.circle({x, 4}, 1.0, colours::black, true);
         g.circle({x, 36}, 1.4, colours::black, true);
@@ -343,7 +344,7 @@ Drawing Form6::drawing(const std::string& picture, const FormState&) const {
     g.dimension({0, 44}, {25, 44}, "b", 0, 2.5);
     g.dimension({-5, 0}, {-5, 40}, "h", -2.8, 0);
     g.dimension({29, 36}, {29, 40}, "d'", 2.8, 0);
-    g.circle({31, 12}, 3.5, colours::red, false, 2);
+    g.as(ShapeKind::Loads).circle({31, 12}, 3.5, colours::red, false, 2);
     g.polyline({{33.5, 8}, {34.6, 11}, {31.5, 10.5}}, false, colours::red, 2);
     g.text({31, 4}, "Tk", 9, TextAlign::Centre, colours::red);
     return g;

@@ -19,6 +19,7 @@ std::pair<double, double> outline(Drawing& g, bool tee) {
 }
 
 void frameTo(Drawing& g, double width) {
+    g.unit = DrawingUnit::Centimetre;
     g.left = -9;
     g.top = -6;
     g.right = width + 13;
@@ -31,6 +32,7 @@ Drawing teeSectionSketch() {
     Drawing g;
     frameTo(g, 40);
     auto [left, right] = outline(g, true);
+    g.as(ShapeKind::Bars);
     for (double x : {left + 3, (left + right) / 2, right - 3}) {
         g.circle({x, 4}, 1.0, colours::blue, true);
         g.circle({x, 36}, 1.4, colours::red, true);
@@ -52,6 +54,7 @@ Drawing layeredSectionSketch(bool tee) {
     frameTo(g, width);
     auto [left, right] = outline(g, tee);
     const double depths[] = {36, 31};
+    g.as(ShapeKind::Bars);
     for (double y : depths)
         for (double x : {left + 3, (left + right) / 2, right - 3}) g.circle({x, y}, 1.3, colours::red, true);
     g.text({(left + right) / 2, 27}, "As2", 9, TextAlign::Centre, colours::red);

@@ -24,6 +24,7 @@ const char* kUsage =
     "     morve-calc --save SAIDA.mor CASO.json\n"
     "     morve-calc --xlsx SAIDA.xlsx CASO.json\n"
     "     morve-calc --picture Form40d.Picture1 SAIDA.gif|SAIDA.png|SAIDA.svg|SAIDA.dxf CASO.json\n"
+    "     morve-calc --pictures CASO.json\n"
     "     morve-calc --steps SAIDA.html|SAIDA.pdf CASO.json\n"
     "     morve-calc --check CASO.json...\n"
     "     morve-calc --list\n"
@@ -46,7 +47,7 @@ int listModules() {
 int main(int argc, char** argv) {
     std::string casePath, stepsPath, reportPath, savePath, xlsxPath, key, title, picture, picturePath;
     std::vector<std::string> casePaths;
-    bool check = false;
+    bool check = false, pictures = false;
     for (int i = 1; i < argc; ++i) {
         std::string a = argv[i];
         auto value = [&](const char* what) -> std::string {
@@ -66,6 +67,7 @@ int main(int argc, char** argv) {
             return 0;
         }
         if (a == "--check") check = true;
+        else if (a == "--pictures") pictures = true;
         else if (a == "--report") reportPath = value("--report");
         else if (a == "--steps") stepsPath = value("--steps");
         else if (a == "--save") savePath = value("--save");
@@ -121,6 +123,11 @@ int main(int argc, char** argv) {
                 std::cerr << "morve-calc: " << error << "\n";
                 return 2;
             }
+        } else if (pictures) {
+            // The module's picture boxes, one a line, as --picture names them.
+            for (const auto& screen : run.session->state().screens())
+                for (const auto& control : screen.controls)
+                    if (control.kind == morve::ControlKind::Picture) std::cout << screen.name << "." << control.name << "\n";
         } else if (!picture.empty()) {
             std::string error = morve::writePictureFile(*run.session, picture, picturePath);
             if (!error.empty()) {

@@ -28,6 +28,7 @@ void layeredSection(Drawing& g, const ColumnSection& s) {
         g.rectangle({s.bw, s.hf}, {s.b - s.bw, s.h - s.hf}, colours::black, 2);
     }
     const LayeredSection steel = s.steel();
+    g.as(ShapeKind::Bars);
     for (int i = 0; i < steel.layers(); ++i) {
         const int bars = steel.bars[i];
         const double spacing = (s.b - 2 * s.dPrime) / (bars - 1);
@@ -50,6 +51,7 @@ void circularSection(Drawing& g, const ColumnSection& s) {
     // One bar at the top, one at the bottom, pairs between on the ring d' inside.
     const int n = static_cast<int>(s.count);
     const double ring = r - s.dPrime;
+    g.as(ShapeKind::Bars);
     for (int k = 0; k < n; ++k) {
         const double angle = 2 * kCirclePi * k / n;
         g.circle({r + ring * std::sin(angle), r - ring * std::cos(angle)}, kBarRadius, colours::blue, true);
@@ -64,6 +66,7 @@ Drawing ColumnModule::drawing(const std::string& picture, const FormState& state
     const ColumnSection section = readSection(form_, state);
     if (!sectionDrawable(form_, state, section)) return {};
     Drawing g;
+    g.unit = DrawingUnit::Centimetre;
     if (isLayered(section.shape))
         layeredSection(g, section);
     else

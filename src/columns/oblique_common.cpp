@@ -155,6 +155,7 @@ Drawing polygonSectionDrawing(const TypedSection& typed, const FormState& s) {
     const double size = std::max(right - left, top - bottom);
     if (!(size > 0) || !std::isfinite(size)) return g;
     const double margin = 0.2 * size;
+    g.unit = DrawingUnit::Centimetre;
     g.left = left - margin;
     g.right = right + margin;
     g.top = -top - margin;
@@ -173,6 +174,7 @@ Drawing polygonSectionDrawing(const TypedSection& typed, const FormState& s) {
         ObliqueModel model(centred, {});
         const TurnedSection t = model.turn(angle);
         // The compressed block, darker, and the neutral axis in red.
+        g.as(ShapeKind::Diagrams);
         std::vector<Point> block;
         for (const Point& p : clipAbove(t.outline, t.ymax - lambda * depth)) {
             const Point q = rotated(p, t.cosine, -t.sine);
@@ -180,6 +182,7 @@ Drawing polygonSectionDrawing(const TypedSection& typed, const FormState& s) {
         }
         if (block.size() >= 3) g.polyline(block, true, colours::grey, 1, true);
         if (depth <= 2 * t.h) levelLine(g, t, t.ymax - depth, centroid, colours::red, 2);
+        g.as(ShapeKind::Outline);
     }
     g.polyline(outline, true, colours::black, 2);
 
@@ -191,11 +194,13 @@ Drawing polygonSectionDrawing(const TypedSection& typed, const FormState& s) {
         armY = std::max(armY, std::abs(p.y - centroid.y));
     }
     armX += 0.08 * size, armY += 0.08 * size;
+    g.as(ShapeKind::Dimensions);
     g.line(screen({centroid.x - armX, centroid.y}), screen({centroid.x + armX, centroid.y}), colours::green);
     g.line(screen({centroid.x, centroid.y - armY}), screen({centroid.x, centroid.y + armY}), colours::green);
     g.text(screen({centroid.x + armX + 0.02 * size, centroid.y}), "x", 9, TextAlign::Left, colours::green);
     g.text(screen({centroid.x + 0.03 * size, centroid.y + armY}), "y", 9, TextAlign::Left, colours::green);
 
+    g.as(ShapeKind::Bars);
     for (std::size_t i = 0; i < typed.bars.size(); ++i) {
         const double area = i < typed.areas.size() ? typed.areas[i] : 0;
         const double r = area > 0 ? std::sqrt(area / std::numbers::pi) : kBarRadius;

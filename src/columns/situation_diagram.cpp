@@ -52,6 +52,8 @@ Drawing situationDiagram(const FormState& state) {
     for (const auto& p : points) range = std::max({range, std::fabs(p.x), std::fabs(p.y)});
     if (range == 0) range = 1;
 
+    // A chart of eccentricities relative to the sides: no length, all of it diagram.
+    g.as(ShapeKind::Diagrams);
     arrow(g, {0, 0}, {1.12 * kSide, 0});
     arrow(g, {0, 0}, {0, -1.12 * kSide});
     g.text({1.14 * kSide, 4}, "ex/hx", 9);
@@ -75,15 +77,18 @@ Drawing situationDiagram(const FormState& state) {
 
 Drawing sectionTypesDrawing() {
     Drawing g;
+    g.unit = DrawingUnit::Centimetre;
     g.left = -5;
     g.right = 125;
     g.top = -8;
     g.bottom = 52;
     auto axes = [&](Point centre) {
+        g.as(ShapeKind::Dimensions);
         arrow(g, centre, {centre.x + 16, centre.y}, colours::blue);
         arrow(g, centre, {centre.x, centre.y - 16}, colours::blue);
         g.text({centre.x + 17, centre.y + 1}, "x", 9, TextAlign::Left, colours::blue);
         g.text({centre.x + 1, centre.y - 17}, "y", 9, TextAlign::Left, colours::blue);
+        g.as(ShapeKind::Outline);
     };
     // Rectangle hx by hy.
     g.rectangle({0, 5}, {30, 40}, colours::black, 2);

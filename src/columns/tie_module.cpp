@@ -143,7 +143,7 @@ Drawing tieSectionSketch(bool symmetric) {
                 label->text = "As";
     // The tie force seen end on (pointing at the reader) at the mid-plane of the steel,
     // and the moment turning about it.
-    g.circle({10, 20}, 1.4, colours::black, false, 2);
+    g.as(ShapeKind::Loads).circle({10, 20}, 1.4, colours::black, false, 2);
     g.circle({10, 20}, 0.4, colours::black, true);
     g.text({12.2, 19}, "Nk", 9);
     g.polyline({{6, 23}, {5.2, 20}, {6, 17}, {8, 15.3}, {10, 15}}, false, colours::green, 2);

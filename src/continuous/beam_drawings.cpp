@@ -74,6 +74,8 @@ Drawing beamPicture(const BeamModel& m, bool loads) {
     Drawing g;
     const double total = totalOf(m);
     if (!(total > 0) || !std::isfinite(total)) return g;
+    g.unit = DrawingUnit::Metre;
+    g.perCoordinate = total / (kRight - kLeft);
     g.left = kLeft - 400, g.right = kRight + 400, g.top = 250, g.bottom = 1300;
     const double y = 800;
     const std::vector<double> nodes = nodeAbscissae(m);
@@ -90,6 +92,7 @@ Drawing beamPicture(const BeamModel& m, bool loads) {
         if (s.node >= 1 && s.node <= static_cast<int>(nodes.size()))
             support(g, scaleX(total, nodes[s.node - 1]), y, s.type);
     if (!loads) return g;
+    g.as(ShapeKind::Loads);
 
     // Uniform loads stand above the beam as bands, one level per segment of a span
     // so that overlapping segments stay apart.
@@ -129,6 +132,9 @@ Drawing diagram(const AnalysedBeam& beam, Quantity q) {
     Drawing g;
     const double total = beam.results.totalLength;
     constexpr double kHeight = 2220;
+    // Along the beam the picture is to scale; across it, the values are.
+    g.unit = DrawingUnit::Metre;
+    g.perCoordinate = total / (kRight - kLeft);
     g.left = kLeft - 450, g.right = kRight + 450, g.top = -250, g.bottom = kHeight + 250;
     auto value = [&](const DiagramPoint& p) { return q == Quantity::Moment ? p.m : p.v; };
     double high = 0, low = 0;
@@ -145,7 +151,8 @@ Drawing diagram(const AnalysedBeam& beam, Quantity q) {
     for (const SpanResult& s : beam.results.spans)
         for (const DiagramPoint& p : s.points) curve.push_back(at(p.x, value(p)));
     curve.push_back(at(total, 0));
-    g.polyline(curve, false, kCurve, 2);
+    g.as(ShapeKind::Diagrams).polyline(curve, false, kCurve, 2);
+    g.as(ShapeKind::Outline);
     double x0 = 0, previousEnd = 0;
     const int n = m.spans();
     for (int i = 0; i < n; ++i) {
@@ -187,6 +194,8 @@ Drawing deformedShape(const AnalysedBeam& beam) {
     const double scale = r < 1e-8 ? 0 : 0.8 * kHeight / r;
     const double axis = kHeight / 2 - 0.5 * (wmax + wmin) * scale;
     const double total = beam.results.totalLength;
+    g.unit = DrawingUnit::Metre;
+    g.perCoordinate = total / (kX1 - kX0);
     auto sx = [&](double x) { return kX0 + x / total * (kX1 - kX0); };
     g.line({kX0, axis}, {kX1, axis}, colours::black, 1);
     std::vector<Point> curve;
@@ -203,7 +212,7 @@ Drawing deformedShape(const AnalysedBeam& beam) {
         x0 += m.length[i];
     }
     g.circle({sx(x0), axis}, 12, colours::black, true);
-    g.polyline(curve, false, kCurve, 2);
+    g.as(ShapeKind::Diagrams).polyline(curve, false, kCurve, 2);
     if (std::abs(extreme) > 0)
         g.text({extremeAt.x, extremeAt.y + (extreme > 0 ? 120 : -120)}, formatResult(extreme, 1), 8,
                TextAlign::Centre, colours::blue);

@@ -100,10 +100,16 @@ Drawing loadedSpanDrawing(const SpanLoads& loads) {
     const bool usable = std::isfinite(loads.span) && loads.span > 0;
     const double l = usable ? loads.span : 1;
     auto at = [&](double x) { return std::isfinite(x) ? 100 * std::clamp(x / l, 0.0, 1.0) : 0.0; };
+    // Along the span the picture is to scale, once the span is known.
+    if (usable) {
+        g.unit = DrawingUnit::Metre;
+        g.perCoordinate = l / 100;
+    }
 
     g.line({0, 0}, {100, 0}, colours::black, 3);
     for (double x : {0.0, 100.0}) g.polyline({{x, 0}, {x - 3, 5}, {x + 3, 5}}, true, colours::black, 1);
     g.dimension({0, 12}, {100, 12}, usable ? "l = " + formatPlain(loads.span) + " m" : "l = ?", 0, 4);
+    g.as(ShapeKind::Loads);
 
     for (std::size_t i = 0; i < loads.uniform.size(); ++i) {
         const auto& u = loads.uniform[i];

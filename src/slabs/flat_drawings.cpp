@@ -97,6 +97,8 @@ Drawing flatSurfaceDrawing(const FlatResults& r, FlatQuantity quantity, double l
         for (int j = 0; j + 1 < kS; ++j) cells.push_back({i, j, (i + 0.5) * ux * s30 - (j + 0.5) * vy * c45});
     std::stable_sort(cells.begin(), cells.end(), [](const Cell& a, const Cell& b) { return a.depth < b.depth; });
     const Colour white{255, 255, 255}, ink{0, 0, 150};
+    // Heights are values, not lengths: the picture has no unit.
+    g.as(ShapeKind::Diagrams);
     for (const Cell& c : cells) {
         std::vector<Point> quad{at(c.i, c.j), at(c.i + 1, c.j), at(c.i + 1, c.j + 1), at(c.i, c.j + 1)};
         g.polyline(quad, true, white, 1, true);
@@ -116,6 +118,7 @@ Drawing flatFloorDrawing(const FlatSlab& slab, const std::vector<double>& loads)
     const double lx = slab.a / 100, ly = slab.b / 100;
     const double margin = 0.2 * std::max(lx, ly);
     Drawing g;
+    g.unit = DrawingUnit::Metre;
     g.left = -margin;
     g.top = -margin;
     g.right = lx + margin;

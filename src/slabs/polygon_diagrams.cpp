@@ -48,9 +48,10 @@ Drawing momentDiagrams(const PolygonCase& c, const GrillageMesh& mesh, const Gri
             const double t = double(k) / kSamples, o = momentAt(r.bars[e], l, t) * reach;
             curve.push_back({p.x + (q.x - p.x) * t + across.x * o, p.y + (q.y - p.y) * t + across.y * o});
         }
-        d.line(p, curve.front(), colour, 1);
+        d.as(ShapeKind::Diagrams).line(p, curve.front(), colour, 1);
         d.line(q, curve.back(), colour, 1);
         d.polyline(curve, false, colour, 1);
+        d.as(ShapeKind::Outline);
     }
     const double x = s.width + 150;
     double y = 300;

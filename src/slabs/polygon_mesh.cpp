@@ -242,6 +242,8 @@ void drawOutline(Drawing& d, const SlabPolygon& p, const OutlineScale& s) {
     d.top = -200;
     d.right = s.width + 200;
     d.bottom = s.height + 200;
+    d.unit = DrawingUnit::Metre;
+    d.perCoordinate = 1 / s.scale;
     for (int i = 0; i < p.count(); ++i) {
         const Point a = s.map(p.vertex(i)), b = s.map(p.vertex(i + 1));
         const SideSupport t = i < static_cast<int>(p.sides.size()) ? p.sides[i] : SideSupport::Simple;

@@ -73,9 +73,11 @@ void deformedShape(SpacePicture& picture, const SpaceModel& m, const SpaceResult
     for (const SpaceBar& b : m.bars) {
         const auto from = static_cast<std::size_t>(b.from), to = static_cast<std::size_t>(b.to);
         picture.path({m.nodes[from].at, m.nodes[to].at}, colours::grey);
-        if (r.solved)
-            picture.path({m.nodes[from].at + scale * r.displacement[from], m.nodes[to].at + scale * r.displacement[to]},
-                         colours::red, 2);
+        if (!r.solved) continue;
+        picture.drawing.as(ShapeKind::Diagrams);
+        picture.path({m.nodes[from].at + scale * r.displacement[from], m.nodes[to].at + scale * r.displacement[to]},
+                     colours::red, 2);
+        picture.drawing.as(ShapeKind::Outline);
     }
 }
 

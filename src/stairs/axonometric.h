@@ -12,6 +12,8 @@ namespace morve {
 Point isometric(const Vec3& p);
 
 struct SpacePicture {
+    // The isometric view keeps true lengths along the axes: the model's metres.
+    SpacePicture() { drawing.unit = DrawingUnit::Metre; }
     Drawing drawing;
     // A line through the points, in the view.
     void path(const std::vector<Vec3>& points, Colour colour = colours::black, double width = 1);
