@@ -1,6 +1,7 @@
 // Polygonal sections with two axes of symmetry (Form16): the polygon routines
 // against a second way of integrating, the layered rectangle as oracle, the
-// symmetries of the square and of the turned section, the checks and the report.
+// symmetries of the square and of the turned section. The checks, the report and
+// the centred force are golden cases in tests/cases/columns/form16-*.json.
 #include <numbers>
 
 #include "columns/oblique_section.h"
@@ -143,112 +144,4 @@ TEST(SymmetricPolygon, EqualMomentsOnASquareTurnTheAxisByAnEighth) {
         EXPECT_NEAR(axis.r.n, nd, 0.001);
         EXPECT_NEAR(axis.r.mx, axis.r.my, 0.01 * axis.r.mx) << nd;
     }
-}
-
-TEST(SymmetricPolygon, CentredForceNeedsNoSearch) {
-    // Nd = 1400 kN on 20 x 50, fck 20: the block takes 0.85 x 2/1.4 x 1000 =
-    // 1214.29 kN, the bars at 2 per mille (42 kN/cm2) the rest: 4.42 cm2; the
-    // minimum 0.15 x 1400 / 43.48 = 4.83 cm2 asks for four bars of 12.5.
-    ObliqueCase c{"Form16", {{"Text3", "210"}, {"Text6", "1000"}, {"Text7", "0"}, {"Text8", "0"}},
-                  morve::testing::rectangle(20, 50), morve::testing::cornerBars(20, 50, 4)};
-    auto r = c.press();
-    ASSERT_TRUE(r.outcome.completed);
-    EXPECT_EQ(r.text("Text9"), "4.42");
-    EXPECT_EQ(r.text("Text10"), "4.83");
-    EXPECT_EQ(r.text("Text11"), "4");
-    EXPECT_EQ(r.text("Text12"), "12.5");
-    EXPECT_EQ(r.text("Text19"), "4.91");
-    // Any outline passes whose bars balance about its centroid: a triangle with
-    // its bars halfway to the corners from the centroid (10, 10).
-    c.vertices = {{0, 0}, {30, 0}, {0, 30}};
-    c.bars = {{5, 5}, {20, 5}, {5, 20}};
-    c.set["Text6"] = "300";
-    c.set["Text7"] = "30";
-    r = c.press();
-    EXPECT_TRUE(r.outcome.completed) << (r.messages.empty() ? "" : r.messages.back().text);
-}
-
-TEST(SymmetricPolygon, EachCheckStopsWithItsWordsAndFocus) {
-    const Rows square = morve::testing::rectangle(30, 30), bars = morve::testing::cornerBars(30, 30, 4);
-    const Rows reversed{square[3], square[2], square[1], square[0]};
-    struct Stop {
-        std::map<std::string, std::string> set;
-        Rows vertices, bars;
-        std::string message, focus, command = "Command4";
-    };
-    const std::string gama = "O coeficiente parcial de segurança não pode ser menor que 1.";
-    const std::vector<Stop> stops{
-        {{{"Text2", "0"}}, square, bars, "Forneça um valor positivo para fyk.", "Form16.Text2"},
-        {{{"Text4", "2"}}, square, bars, "O número de vértices da seção deve ser maior ou igual a 3.", "Form16.Text4"},
-        {{{"Text5", "0"}}, square, bars, "Forneça um valor positivo para o número de barras de aço.", "Form16.Text5"},
-        {{{"Text5", "300"}}, square, bars, "Este programa está limitado a 299 barras de aço.", "Form16.Text5"},
-        {{{"Text4", "300"}}, square, bars, "Este programa está limitado a seções com um máximo de 299 vértices.", "Form16.Text4"},
-        {{{"Text4", "5"}}, square, bars, "Atualize as coordenadas dos vértices da seção.", "Form16.Command3"},
-        {{{"Text5", "3"}}, square, bars, "Atualize as coordenadas das barras da armadura.", "Form16.Command3"},
-        {{{"Text6", "-1"}}, square, bars, "O esforço normal Nk não pode ser negativo.", "Form16.Text6"},
-        {{{"Text7", "-1"}}, square, bars, "Forneça um valor positivo (ou nulo) para Mxk.", "Form16.Text7"},
-        {{{"Text8", "-1"}}, square, bars, "Forneça um valor positivo (ou nulo) para Myk.", "Form16.Text8"},
-        {{{"Text13", "0.9"}}, square, bars, gama, "Form16.Text13"},
-        {{{"Text14", "0.9"}}, square, bars, gama, "Form16.Text14"},
-        {{{"Text15", "0.9"}}, square, bars, gama, "Form16.Text15"},
-        {{}, reversed, bars, "Erro!   Verifique as coordenadas dos vértices da seção.", "Form16.Command3"},
-        {{}, square, {{-11, -11}, {11, -11}, {11, 11}, {-11, 12}}, "Falta a dupla simetria. Verifique as coordenadas.", "Form16.Command3"},
-        // The tables open only for counts that pass; the picture only for fresh tables.
-        {{{"Text4", "2"}}, square, bars, "O número de vértices da seção deve ser maior ou igual a 3.", "Form16.Text4", "Command3"},
-        {{{"Text5", "5"}}, square, bars, "Atualize as coordenadas das barras da armadura.", "Form16.Command3", "Command5"},
-    };
-    for (const Stop& stop : stops) {
-        ObliqueCase c{"Form16", stop.set, stop.vertices, stop.bars};
-        c.set.emplace("Text6", "500");
-        c.set.emplace("Text7", "40");
-        c.set.emplace("Text8", "20");
-        auto r = c.press(stop.command);
-        SCOPED_TRACE(stop.message);
-        EXPECT_FALSE(r.outcome.completed);
-        ASSERT_FALSE(r.messages.empty());
-        EXPECT_EQ(r.messages.back().text, stop.message);
-        EXPECT_EQ(r.messages.back().title, "MORVE");
-        EXPECT_EQ(r.outcome.focus, stop.focus);
-    }
-}
-
-TEST(SymmetricPolygon, ReportListsTheTablesAndTheResults) {
-    ObliqueCase c{"Form16", {{"Text3", "210"}, {"Text6", "1000"}, {"Text7", "0"}, {"Text8", "0"}},
-                  {{-10, -25}, {10, -25}, {10, 25}, {-10, 25}}, {{-6, -21}, {6, -21}, {6, 21}, {-6, 21}}};
-    auto r = c.press();
-    ASSERT_TRUE(r.outcome.completed);
-    // After the materials and coefficients that every column report shares.
-    const std::vector<std::string> expected{
-        "Gamac= 1.4     Gamas= 1.15     Gamaf= 1.4",
-        " ",
-        "Número de vértices da seção= 4",
-        "Número de barras de aço= 4",
-        " ",
-        "Coordenadas dos vértices da seção:",
-        "Vértice= 1                   X (cm)= -10              Y (cm)= -25",
-        "Vértice= 2                   X (cm)= 10               Y (cm)= -25",
-        "Vértice= 3                   X (cm)= 10               Y (cm)= 25",
-        "Vértice= 4                   X (cm)= -10              Y (cm)= 25",
-        " ",
-        "Coordenadas das barras de aço:",
-        "Barra= 1                     X (cm)= -6               Y (cm)= -21",
-        "Barra= 2                     X (cm)= 6                Y (cm)= -21",
-        "Barra= 3                     X (cm)= 6                Y (cm)= 21",
-        "Barra= 4                     X (cm)= -6               Y (cm)= 21",
-        " ",
-        "Esforços solicitantes de serviço:",
-        "Esforço normal Nk= 1000 kN",
-        "Momentos fletores: Mxk= 0 kNm     Myk= 0 kNm",
-        " ",
-        "RESULTADOS:",
-        " ",
-        "Área de aço calculada: As= 4.42 cm2",
-        " ",
-        "Armadura mínima= 4.83 cm2",
-        " ",
-        "SOLUÇÃO:     4 barras de 12.5 mm",
-    };
-    const auto lines = morve::testing::reportLines(*r.session, "Form16");
-    ASSERT_GT(lines.size(), 5u);
-    EXPECT_EQ(std::vector<std::string>(lines.begin() + 5, lines.end()), expected);
 }

@@ -144,14 +144,3 @@ TEST(ObliqueNearSquash, BarsOffTheCentroidMeetTheSurfaceBeforeTheSquashLoad) {
         expectSameDisplay(offCentre(scaled, nd, mxd).press().text("Text11"), "1", std::string("Mxd ") + mxd);
     }
 }
-
-TEST(ObliqueNearSquash, WithoutBarAreasOnlyTheDesignIsMade) {
-    Rows blank = kOffCentre;
-    for (auto& b : blank) b.pop_back();
-    auto r = offCentre(blank, "1500", "30").press();
-    ASSERT_TRUE(r.outcome.completed);
-    EXPECT_EQ(r.text("Text15"), "Sem áreas das barras: apenas o dimensionamento foi feito.");
-    EXPECT_EQ(r.text("Text11"), " ");
-    EXPECT_EQ(r.text("Text6"), " ");
-    EXPECT_GT(r.number("Text12"), 0);
-}

@@ -1,19 +1,14 @@
 // The two-flight stair: the statics of the whole, the symmetry of a stair turned
-// end for end about the landing's middle, and "Autoportantes" as a user drives it.
+// end for end about the landing's middle. "Autoportantes" as a user drives it is
+// in tests/cases/stairs/form42-checks.json.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
 
-#include "../beams/beam_session.h"
-#include "../stop_expectations.h"
-#include "app/numbers.h"
 #include "stairs/two_flights.h"
 
 namespace morve {
 namespace {
-
-using testing::BeamRun;
 
 TwoFlights stair(bool fixed, bool clockwise) {
     TwoFlights t;
@@ -77,46 +72,6 @@ TEST(TwoFlights, SymmetricStairGivesSymmetricResults) {
     // One flight pushes up on the landing, the other hangs it: opposite normal forces.
     EXPECT_LT(r.flight1Joint[0] * r.flight2Joint[0], 0);
     EXPECT_GT(r.deflection, 0);
-}
-
-const std::map<std::string, std::string> kStair = {
-    {"Text4", "2.7"},  {"Text5", "1.2"}, {"Text6", "1.3"},  {"Text7", "2.6"},  {"Text8", "2.88"},
-    {"Text9", "15"},   {"Text10", "14"}, {"Text11", "2"},   {"Text12", "1"},   {"Text13", "3"},
-    {"Text14", "3"}};
-
-TEST(Form42, ChecksReportAndTables) {
-    struct Case {
-        std::map<std::string, std::string> set;
-        std::string message, focus;
-    } cases[] = {
-        {{{"Text4", "0"}}, "Forneça um valor positivo para a projeção horizontal do lance a.", "Form42.Text4"},
-        {{{"Text6", "abc"}}, "Forneça um valor positivo para o comprimento do patamar c.", "Form42.Text6"},
-        {{{"Text7", "2.3"}}, "O patamar deve ter pelo menos a largura dos dois lances juntos: b não pode ser menor que 2L.", "Form42.Text7"},
-        {{{"Text8", "-0"}}, "Forneça um valor positivo para a altura de piso a piso H.", "Form42.Text8"},
-        {{{"Text10", ""}}, "Forneça um valor positivo para a espessura do lance h.", "Form42.Text10"},
-        {{{"Text14", "-1"}}, "A carga acidental no patamar não pode ser negativa.", "Form42.Text14"},
-        {{{"Text6", "0.01"}}, "A escada resulta quase instável mesmo com as extremidades engastadas: aumente o comprimento do patamar c.", "Form42.Text6"},
-        {{{"Text10", "0.01"}}, "A escada resulta quase instável mesmo com as extremidades engastadas: aumente a espessura h no lance.", "Form42.Text10"},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.message);
-        BeamRun run("Form42");
-        run.set(kStair).set(c.set);
-        expectStop(run.prompter, run.press("Command1"), c.message, MessageKind::Warning, c.focus);
-    }
-    BeamRun run("Form42");
-    run.set(kStair);
-    ASSERT_TRUE(run.press("Command1").completed);
-    EXPECT_TRUE(run.prompter.messages().empty());
-    const GridRows& reactions = run.session.state().grid("Form42.Grade2");
-    ASSERT_EQ(reactions.size(), 3u);
-    EXPECT_EQ(reactions[1][3], reactions[2][3]);  // each support carries half
-    const std::vector<std::string> lines = run.report("Form42");
-    for (const char* text : {"Esforços no lance L1, onde My é máximo:", "Esforços na ligação do lance L2 com o patamar:",
-                             "Esforços no centro do patamar:", "Largura total do patamar b = 2.6 m",
-                             "fi= 2.5", "No patamar h = 15 cm", "No lance h = 14 cm"})
-        EXPECT_NE(std::find(lines.begin(), lines.end(), text), lines.end()) << text;
-    EXPECT_EQ(lines.back(), "[figura]");
 }
 
 }  // namespace
