@@ -103,9 +103,7 @@ private slots:
 
     void columnStepsShowTheSearchBracketAndRoot() {
         QVERIFY(user->open("Form12"));
-        for (auto [box, text] : {std::pair{"Text1", "25"}, {"Text4", "20"}, {"Text5", "50"}, {"Text6", "4"},
-                                 {"Text7", "2"}, {"Text8", "1000"}, {"Text9", "120"}})
-            user->type("Form12", box, text);
+        user->fill("Form12", {{"Text1", "25"}, {"Text4", "20"}, {"Text5", "50"}, {"Text6", "4"}, {"Text7", "2"}, {"Text8", "1000"}, {"Text9", "120"}});
         GridRows& rows = user->app().module()->session().state().grid("Form12b.Grade1");
         rows.resize(1);
         rows.push_back({"1", "3"});
