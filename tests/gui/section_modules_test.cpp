@@ -74,23 +74,7 @@ class SectionModulesTest : public QObject {
         QVERIFY(user->shown(module));
     }
 
-private slots:
-    void init() { user = std::make_unique<ModuleUser>(); }
-    void cleanup() { user.reset(); }
-
-    // A rectangle designed through its window: the layers typed in their table, the
-    // centred load of the column tests (Nd 1400 on 20 x 40, As = 428.57 / 42 = 10.2),
-    // and "Ver seção" with its six bars. The box without a hole runs the same way.
-    void rectangleDesignsWithTheirLayersAndSection_data() {
-        QTest::addColumn<QString>("module");
-        QTest::addColumn<QString>("table");
-        QTest::addRow("maciça") << "Form12" << "Form12b";
-        QTest::addRow("vazada sem furo") << "Form12d" << "Form12e";
-    }
-    void rectangleDesignsWithTheirLayersAndSection() {
-        QFETCH(QString, module);
-        QFETCH(QString, table);
-        const std::string m = module.toStdString(), t = table.toStdString();
+    void rectangleRun(const std::string& m, const std::string& t) {
         QVERIFY(user->open(m));
         // No count of layers: the table does not open and the focus waits on n.
         user->click(m, "Command3");
@@ -98,12 +82,11 @@ private slots:
         QVERIFY(!user->shown(t));
         QCOMPARE(user->focus(m), user->control(m, "Text7"));
         user->answer({});
-        const bool box = m == "Form12d";
-        auto boxes = box ? std::vector<std::pair<const char*, const char*>>{{"Text4", "20"}, {"Text5", "40"}, {"Text12", "10"},
-                                                                          {"Text6", "20"}, {"Text13", "4"}}
-                         : std::vector<std::pair<const char*, const char*>>{{"Text6", "4"}};
-        boxes.insert(boxes.end(), {{"Text3", "210"}, {"Text7", "2"}});
-        for (auto [name, text] : boxes) user->type(m, name, text);
+        if (m == "Form12d")
+            user->fill(m, {{"Text4", "20"}, {"Text5", "40"}, {"Text12", "10"}, {"Text6", "20"}, {"Text13", "4"}});
+        else
+            user->type(m, "Text6", "4");
+        user->fill(m, {{"Text3", "210"}, {"Text7", "2"}});
         enterLayers(m, t, {"3", "3"});
         closeLayers(m, t);
         user->type(m, "Text8", "1000");
@@ -122,6 +105,21 @@ private slots:
         QVERIFY(!user->shown("Form12c"));
     }
 
+private slots:
+    void init() { user = std::make_unique<ModuleUser>(); }
+    void cleanup() { user.reset(); }
+
+    // A rectangle designed through its window: the layers typed in their table, the
+    // centred load of the column tests (Nd 1400 on 20 x 40, As = 428.57 / 42 = 10.2),
+    // and "Ver seção" with its six bars. The box without a hole runs the same way.
+    void rectangleDesignsWithTheirLayersAndSection() {
+        const ModuleUser::Entries shapes = {{"Form12", "Form12b"}, {"Form12d", "Form12e"}};
+        for (auto [module, table] : shapes) {
+            user.reset();  // one program at a time: its prompter is the only one
+            user = std::make_unique<ModuleUser>();
+            rectangleRun(module, table);
+        }
+    }
     void circleDesignUnderCentredLoad() {
         QVERIFY(user->open("Form14"));
         QVERIFY(!user->control("Form14", "Command3"));  // a circle has no layers
