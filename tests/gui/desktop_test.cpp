@@ -178,16 +178,6 @@ private slots:
         QCOMPARE(pressed, std::vector<std::string>{"Command4"});
     }
 
-    // Only the boxes of the load selected are in view from the start.
-    void concentratedLoadStartsAlone() {
-        ModuleUser user;
-        QVERIFY(user.open("Form23"));
-        QVERIFY(user.control("Form23", "Frame5")->isVisible());
-        QVERIFY(!user.control("Form23", "Frame6")->isVisible() && !user.control("Form23", "Frame7")->isVisible());
-        user.click("Form23", "Option3");
-        QVERIFY(user.control("Form23", "Frame7")->isVisible() && !user.control("Form23", "Frame5")->isVisible());
-    }
-
     void helpPagesWriteDecimalsWithAPoint() {
         const QDir folder(qEnvironmentVariable("MORVE_DATA_DIR") + "/ajuda");
         const QStringList files = folder.entryList({"*.html", "*.txt"});

@@ -1,9 +1,20 @@
 // Grids typed like a spreadsheet: Tab and Enter through the cells while typing,
-// and a block pasted from a spreadsheet filling and growing the table.
+// and a block pasted from a spreadsheet filling and growing the table. And back
+// out: "Exportar para planilha..." writes the table as shown to a workbook that a
+// second reader opens with numbers as numbers; a folder that cannot be written
+// gives a message and leaves the old file whole.
 #include <QApplication>
 #include <QClipboard>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
 #include <QTableWidget>
+#include <QTemporaryDir>
 #include <QTest>
+
+#include <unistd.h>
+
+#include "gui/grid_export.h"
 
 #include "gui/gui_prompter.h"
 #include "gui/screen_window.h"
@@ -102,6 +113,37 @@ private slots:
         QCOMPARE(prompter.messages().at(0).text,
                  std::string("A tabela tem no máximo 4 linhas: as linhas coladas além dessas ficaram de fora."));
         QVERIFY(!(table->item(3, 0)->flags() & Qt::ItemIsEditable));
+    }
+
+    void theTableAsShownOpensInASecondReader() {
+        QTableWidget sheet(2, 3);
+        sheet.setHorizontalHeaderLabels({"Vão", "Ma (kNm)", "Mb (kNm)"});
+        const char* cells[2][3] = {{"1", "-12.50", " 3e2 "}, {"2", "1,5", ""}};
+        for (int r = 0; r < 2; ++r)
+            for (int c = 0; c < 3; ++c) sheet.setItem(r, c, new QTableWidgetItem(cells[r][c]));
+        QTemporaryDir dir;
+        const QString path = QDir(dir.path()).filePath("momentos.xlsx");
+        QCOMPARE(exportTable(&sheet, "Form34f.Grade1", path), std::string());
+        QProcess reader;
+        reader.start("/usr/bin/python3", {"-c", "import openpyxl,sys; s=openpyxl.load_workbook(sys.argv[1]).active;"
+                                                "print(s.title, [c for r in s.iter_rows(values_only=True) for c in r])",
+                                          path});
+        QVERIFY(reader.waitForFinished());
+        QCOMPARE(QString(reader.readAllStandardOutput()).trimmed(),
+                 QString("Form34f.Grade1 ['Vão', 'Ma (kNm)', 'Mb (kNm)', 1, -12.5, 300, 2, '1,5', None]"));
+
+        // A read-only folder: the message, the old file untouched, no temporary left.
+        QFile::setPermissions(dir.path(), QFile::ReadOwner | QFile::ExeOwner);
+        const QByteArray before = [&] { QFile f(path); f.open(QIODevice::ReadOnly); return f.readAll(); }();
+        sheet.item(0, 1)->setText("99");
+        const std::string failed = exportTable(&sheet, "x", path);
+        QFile::setPermissions(dir.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        if (::geteuid() == 0) QSKIP("root writes into a read-only folder");
+        QVERIFY2(failed.starts_with("Não foi possível salvar a planilha " + path.toStdString() + ": "), failed.c_str());
+        QFile f(path);
+        QVERIFY(f.open(QIODevice::ReadOnly));
+        QCOMPARE(f.readAll(), before);
+        QCOMPARE(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
     }
 };
 

@@ -1,7 +1,7 @@
 #pragma once
 // A user at the keyboard and mouse of a module's windows: boxes typed, list items
 // clicked, grid cells typed digit by digit, buttons clicked, message boxes
-// answered by a script. Shared by the runs of the beam and column families.
+// answered by a script. Shared by the runs of every module family.
 #include <QAbstractButton>
 #include <QLineEdit>
 #include <QListWidget>
@@ -85,6 +85,10 @@ public:
             if (auto* page = qobject_cast<QScrollArea*>(w)) page->ensureWidgetVisible(control, 0, 0);
     }
 
+    using Entries = std::vector<std::pair<const char*, const char*>>;
+    void fill(const std::string& screenName, const Entries& boxes) {
+        for (auto [box, text] : boxes) type(screenName, box, text);
+    }
     void type(const std::string& screenName, const char* box, const char* text) {
         auto* edit = qobject_cast<QLineEdit*>(screen(screenName)->control(box));
         QVERIFY2(edit, box);
@@ -127,6 +131,9 @@ public:
         QTest::keyClick(editor, Qt::Key_Return);
         settle();
     }
+    void typeRow(const std::string& screenName, const char* grid, int row, std::vector<const char*> cells, int from) {
+        for (std::size_t c = 0; c < cells.size(); ++c) typeCell(screenName, grid, row, cells[c], from + int(c));
+    }
     QString cell(const std::string& screenName, const char* grid, int row, int column) const {
         auto* table = qobject_cast<QTableWidget*>(screen(screenName)->control(grid));
         QTableWidgetItem* item = table ? table->item(row, column) : nullptr;
@@ -142,6 +149,18 @@ public:
         const bool marked = button->inherits("QRadioButton") || button->inherits("QCheckBox");
         QTest::mouseClick(button, Qt::LeftButton, {}, marked ? QPoint(8, button->height() / 2) : QPoint());
         settle();
+    }
+    // An option chosen as a click on its caption does.
+    void choose(const std::string& screenName, const char* option) {
+        auto* radio = qobject_cast<QAbstractButton*>(control(screenName, option));
+        QVERIFY2(radio && radio->isVisible(), option);
+        radio->click();
+        settle();
+    }
+    // No message box came up; the first one that did is named.
+    void quiet() const {
+        const auto& m = told().messages();
+        QVERIFY2(m.empty(), m.empty() ? "" : m.front().text.c_str());
     }
     bool enabled(const std::string& screenName, const char* control) const {
         return screen(screenName)->control(control)->isEnabled();

@@ -1,9 +1,15 @@
 // Project files on the desktop: "Salvar" through the dialog with the program's
 // labels and name filter, "Abrir" refusing another module's file without losing
-// what was typed, and `morve FILE.mor` going straight to the module with its data.
+// what was typed, and `morve FILE.mor` going straight to the module with its data;
+// "Arquivos recentes": the newest eight files opened or saved, listed with access
+// keys in the main menu; a listed file opens its module with its data, and a file
+// that is gone is dropped with a message.
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -13,6 +19,7 @@
 #include "gui/gui_prompter.h"
 #include "gui/main_window.h"
 #include "gui/project_dialogs.h"
+#include "gui/recent_files.h"
 #include "gui/screen_window.h"
 #include "../reports/file_module.h"
 #include "gui_test_support.h"
@@ -23,9 +30,16 @@ namespace {
 
 const RegisterModule<FileModule> registered;
 
+QList<QAction*> shownItems(MainWindow& menu) {
+    auto* recent = menu.menuBar()->findChild<QMenu*>(QStringLiteral("recentes"));
+    if (!recent) return {};
+    emit recent->aboutToShow();
+    return recent->actions();
+}
+
 }  // namespace
 
-class ProjectDialogsTest : public QObject {
+class ProjectFilesTest : public QObject {
     Q_OBJECT
 
     static QLineEdit* title(MorveApp& app) {
@@ -102,7 +116,53 @@ private slots:
         settle();
         setGuiPrompter(nullptr);
     }
+
+    void theNewestEightOpenTheirModuleAndAFileThatIsGoneIsDropped() {
+        QSettings(QStringLiteral("MORVE"), QStringLiteral("morve")).clear();
+        ScriptedPrompter prompter;
+        setGuiPrompter(&prompter);
+        QTemporaryDir dir;
+        MorveApp app(quickOptions());
+        app.start();
+        app.openModule("Form90");
+        settle();
+        FormState& s = app.module()->session().state();
+        for (int k = 1; k <= kRecentFiles + 1; ++k) {
+            s.setText("Form90.Text1", "viga " + std::to_string(k));
+            app.module()->refreshWindows();
+            QVERIFY(saveProjectFrom(*app.module(), QDir(dir.path()).filePath(QStringLiteral("v%1.mor").arg(k)).toStdString()));
+        }
+        // Saved again: once in the list, on top.
+        QVERIFY(saveProjectFrom(*app.module(), QDir(dir.path()).filePath("v3.mor").toStdString()));
+        const QStringList files = recentFiles();
+        QCOMPARE(files.size(), kRecentFiles);
+        QVERIFY(files[0].endsWith("v3.mor") && files[1].endsWith("v9.mor") && files.last().endsWith("v2.mor"));
+
+        app.returnToMenu();
+        settle();
+        const QList<QAction*> items = shownItems(*app.menu());
+        QCOMPARE(items.size(), kRecentFiles);
+        QVERIFY(items[0]->text().startsWith("&1  v3.mor  (") && items[7]->text().startsWith("&8  v2.mor"));
+        items[1]->trigger();
+        settle();
+        QVERIFY(app.module());
+        QCOMPARE(app.module()->session().state().text("Form90.Text1"), std::string("viga 9"));
+
+        app.returnToMenu();
+        settle();
+        QVERIFY(QFile::remove(QDir(dir.path()).filePath("v5.mor")));
+        shownItems(*app.menu())[5]->trigger();
+        settle();
+        QVERIFY(!app.module());
+        QVERIFY(QString::fromStdString(prompter.messages().back().text).endsWith(
+            "v5.mor não existe mais e foi retirado da lista de arquivos recentes."));
+        QCOMPARE(recentFiles().size(), kRecentFiles - 1);
+        QCOMPARE(shownItems(*app.menu()).size(), kRecentFiles - 1);
+        app.shutdown();
+        settle();
+        setGuiPrompter(nullptr);
+    }
 };
 
-QTEST_MAIN(ProjectDialogsTest)
-#include "project_dialogs_test.moc"
+QTEST_MAIN(ProjectFilesTest)
+#include "project_files_test.moc"
