@@ -173,30 +173,3 @@ TEST(ModuleSession, RefusesWhatTheScreensDoNotOffer) {
     ASSERT_TRUE(session.press("Form9b.Command2", quiet).completed);
     EXPECT_EQ(session.refusal("Command4"), "");
 }
-
-// The start dialog's concrete, steels and code reach the material boxes of every
-// module that has them: fck 30, bars CA-60 (stirrups and slab bars CA-50), and
-// the steel modulus of NBR-6118.
-TEST(StartDefaults, ReachTheMaterialBoxesOfEveryModule) {
-    StartDefaults d;
-    d.select(1, "30");
-    d.select(2, "CA-50");
-    d.select(3, "CA-60");
-    d.select(5, "NBR-6118");
-    const struct {
-        const char* module;
-        const char *fyk, *es, *steel;
-    } rows[] = {{"Form5", "Text2", "", "500"},      {"Form6", "Text2", "Text3", "600"},  {"Form7", "Text2", "Text9", "600"},
-                {"Form9", "Text2", "Text3", "600"}, {"Form10", "Text2", "Text3", "600"}, {"Form11", "Text2", "Text3", "600"},
-                {"Form12", "Text2", "Text3", "600"}, {"Form13", "Text2", "Text3", "600"}, {"Form14", "Text2", "Text3", "600"},
-                {"Form16", "Text2", "Text3", "600"}, {"Form17", "Text2", "Text3", "600"}, {"Form18", "Text2", "Text3", "600"},
-                {"Form19", "Text2", "Text3", "600"}, {"Form20", "Text2", "Text3", "500"}, {"Form36", "Text2", "", "600"},
-                {"Form39", "", "Text5", ""}};
-    for (const auto& r : rows) {
-        SCOPED_TRACE(r.module);
-        ModuleSession session(*ModuleRegistry::find(r.module), d);
-        EXPECT_EQ(session.state().text("Text1"), "30");
-        if (*r.fyk) EXPECT_EQ(session.state().text(r.fyk), r.steel);
-        if (*r.es) EXPECT_EQ(session.state().text(r.es), "210");
-    }
-}

@@ -96,9 +96,9 @@ TEST(Trace, BendingSweepIsTrueAndAgreesWithTheBoxes) {
                                                   {"List2", criterion}}},
                                          {"answers", json::array({"no", "no"})}});
                 expectTrace(r7, "Form7 " + where);
-                if (r7.outcome["steps"][0]["completed"].get<bool>())
+                if (r7.outcome["steps"][0]["completed"].get<bool>()) {
                     EXPECT_EQ(lastResult(r7.session->steps(), "Armadura tracionada adotada"),
-                              r7.session->state().text("Text7")) << where;
+                              r7.session->state().text("Text7")) << where; }
                 morve::CaseRun r10 = run({{"module", "Form10"},
                                           {"set", {{"Text1", fck}, {"Text5", "10"}, {"Text9", "4"}, {"Text10", mk},
                                                    {"List6", "1"}, {"List2", criterion}}}});
