@@ -15,33 +15,25 @@
 
 using namespace morve;
 
-TEST(KeyFilters, PositiveNumberTurnsCommaIntoPointAndRefusesTheRest) {
-    EXPECT_EQ(PositiveNumberKey(',').code, '.');
-    EXPECT_FALSE(PositiveNumberKey(',').beep);
-    for (int c = '0'; c <= '9'; ++c) EXPECT_EQ(PositiveNumberKey(c).code, c);
-    EXPECT_EQ(PositiveNumberKey('.').code, '.');
-    for (int c : {int('-'), int('/'), int('+'), int('a'), int('e'), int(' '), 8, 13, 27, 0xE9}) {
-        EXPECT_EQ(PositiveNumberKey(c).code, 0) << c;
-        EXPECT_TRUE(PositiveNumberKey(c).beep) << c;
+// What each filter does with the keys a user may type: passes it, turns the comma
+// into a point, or swallows it with a beep (backspace and Enter included).
+TEST(KeyFilters, PassTurnOrSwallowWithABeep) {
+    const struct {
+        KeyFilter filter;
+        std::string passed, swallowed;
+        bool commaToPoint;
+    } filters[] = {{KeyFilter::PositiveNumber, "0123456789.", "-/+ae \x08\r\x1b\xe9", true},
+                   {KeyFilter::SignedNumber, "0123456789.-", "/+\x08", true},
+                   {KeyFilter::Digit, "0123456789", ".-x,\x08", false},
+                   {KeyFilter::None, ",", "", false}};
+    for (const auto& f : filters) {
+        for (unsigned char c : f.passed) EXPECT_EQ(applyKeyFilter(f.filter, c).code, c) << int(f.filter) << c;
+        for (unsigned char c : f.swallowed) {
+            EXPECT_EQ(applyKeyFilter(f.filter, c).code, 0) << int(f.filter) << ' ' << int(c);
+            EXPECT_TRUE(applyKeyFilter(f.filter, c).beep) << int(f.filter) << ' ' << int(c);
+        }
+        if (f.commaToPoint) { EXPECT_EQ(applyKeyFilter(f.filter, ',').code, '.'); EXPECT_FALSE(applyKeyFilter(f.filter, ',').beep); }
     }
-}
-
-TEST(KeyFilters, SignedNumberLetsTheMinusThrough) {
-    EXPECT_EQ(SignedNumberKey('-').code, '-');
-    EXPECT_EQ(SignedNumberKey(',').code, '.');
-    EXPECT_EQ(SignedNumberKey('/').code, 0);
-    EXPECT_TRUE(SignedNumberKey('/').beep);
-    EXPECT_EQ(SignedNumberKey('+').code, 0);
-    EXPECT_EQ(SignedNumberKey(8).code, 0);  // backspace is swallowed too
-}
-
-TEST(KeyFilters, DigitKeepsDigitsOnlyAndNeverConvertsTheComma) {
-    for (int c = '0'; c <= '9'; ++c) EXPECT_EQ(DigitKey(c).code, c);
-    for (int c : {int(','), int('.'), int('-'), 8, int('x')}) {
-        EXPECT_EQ(DigitKey(c).code, 0) << c;
-        EXPECT_TRUE(DigitKey(c).beep) << c;
-    }
-    EXPECT_EQ(applyKeyFilter(KeyFilter::None, ',').code, ',');
 }
 
 TEST(StartDefaults, InitialSelectionsAndEcsByBothCodes) {
