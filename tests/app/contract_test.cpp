@@ -38,11 +38,8 @@ TEST(KeyFilters, PassTurnOrSwallowWithABeep) {
 
 TEST(StartDefaults, InitialSelectionsAndEcsByBothCodes) {
     StartDefaults d;
-    EXPECT_EQ(d.list(1), "20");
-    EXPECT_EQ(d.list(2), "CA-60");
-    EXPECT_EQ(d.list(3), "CA-50");
-    EXPECT_EQ(d.list(4), "CEB/90");
-    EXPECT_EQ(d.list(5), "CEB/90");
+    int list = 0;
+    for (const char* selected : {"20", "CA-60", "CA-50", "CEB/90", "CEB/90"}) EXPECT_EQ(d.list(++list), selected);
     d.confirm();
     EXPECT_NEAR(d.ecs, 18275 * std::cbrt(2.8), 1e-9);
     EXPECT_NEAR(d.ecs, 25757.88, 0.01);  // 18275 x 1.409459
