@@ -20,8 +20,8 @@ struct PointLoad {
 
 struct SpanLoads {
     double span = 0;  // m
-    std::vector<UniformSegment> uniform;
-    std::vector<PointLoad> points;
+    std::vector<UniformSegment> uniform{};
+    std::vector<PointLoad> points{};
     double xa = 0, xb = 0;  // bending moments at the ends, kNm
 };
 

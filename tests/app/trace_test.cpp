@@ -4,6 +4,7 @@
 // agree; no step shows nan or inf; a stop ends the trace with its message.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
 #include <fstream>
@@ -53,12 +54,9 @@ TEST(Trace, EveryStepOfEveryExampleIsTrue) {
     int traced = 0;
     for (const auto& entry : std::filesystem::directory_iterator(MORVE_EXAMPLES)) {
         if (entry.path().extension() != ".json") continue;
-        std::ifstream in(entry.path());
-        std::stringstream text;
-        text << in.rdbuf();
-        json c = morve::parseCase(text.str());
+        json c = morve::parseCase((std::stringstream() << std::ifstream(entry.path()).rdbuf()).str());
         const std::string key = c.value("module", "");
-        if (std::find(kTracedModules.begin(), kTracedModules.end(), key) == kTracedModules.end()) continue;
+        if (std::ranges::find(kTracedModules, key) == kTracedModules.end()) continue;
         if (c.contains("press")) {
             // The trace is the calculation's: stop after it, before detailing moves on.
             json presses = json::array();
@@ -70,11 +68,8 @@ TEST(Trace, EveryStepOfEveryExampleIsTrue) {
         }
         morve::CaseRun r = run(c);
         expectTrace(r, entry.path().filename().string());
-        for (const auto& s : r.session->steps().steps)
-            if (s.kind == morve::StepKind::Calculation) {
-                ++traced;
-                break;
-            }
+        traced += std::ranges::any_of(r.session->steps().steps,
+                                      [](const auto& s) { return s.kind == morve::StepKind::Calculation; });
     }
     EXPECT_EQ(traced, 13);  // the examples of the eight modules, each with its calculation
 }
@@ -96,9 +91,9 @@ TEST(Trace, BendingSweepIsTrueAndAgreesWithTheBoxes) {
                                                   {"List2", criterion}}},
                                          {"answers", json::array({"no", "no"})}});
                 expectTrace(r7, "Form7 " + where);
-                if (r7.outcome["steps"][0]["completed"].get<bool>())
+                if (r7.outcome["steps"][0]["completed"].get<bool>()) {
                     EXPECT_EQ(lastResult(r7.session->steps(), "Armadura tracionada adotada"),
-                              r7.session->state().text("Text7")) << where;
+                              r7.session->state().text("Text7")) << where; }
                 morve::CaseRun r10 = run({{"module", "Form10"},
                                           {"set", {{"Text1", fck}, {"Text5", "10"}, {"Text9", "4"}, {"Text10", mk},
                                                    {"List6", "1"}, {"List2", criterion}}}});

@@ -23,12 +23,22 @@ BeamModel beam(int spans, std::vector<BeamSupport> supports) {
     return m;
 }
 
-void uniformOnAll(BeamModel& m) {
-    for (int i = 1; i <= m.spans(); ++i) m.segments.push_back({i, 0, L, w});
-}
-
 constexpr BeamSupport simple(int node) { return {node, SupportType::Simple, 0}; }
 constexpr BeamSupport fixed(int node) { return {node, SupportType::Fixed, 0}; }
+
+// The beam with w over every span.
+BeamModel uniformBeam(int spans, std::vector<BeamSupport> supports) {
+    BeamModel m = beam(spans, std::move(supports));
+    for (int i = 1; i <= spans; ++i) m.segments.push_back({i, 0, L, w});
+    return m;
+}
+
+// A cantilever fixed at node 1 with the force p at its tip.
+BeamModel cantilever(double p) {
+    BeamModel m = beam(1, {fixed(1)});
+    m.nodalLoads.push_back({2, p, 0});
+    return m;
+}
 
 double totalLoad(const BeamModel& m) {
     double t = 0;
@@ -47,47 +57,25 @@ struct Expected {
 };
 
 TEST(ContinuousBeam, ClosedFormsAndEquilibrium) {
-    std::vector<Expected> cases;
-    {
-        BeamModel m = beam(2, {simple(1), simple(2), simple(3)});
-        uniformOnAll(m);
-        cases.push_back({"two equal spans", m, {3 * w * L / 8, 10 * w * L / 8, 3 * w * L / 8}, {0, -w * L * L / 8, 0}, {0, 0, 0}});
-    }
-    {
-        BeamModel m = beam(3, {simple(1), simple(2), simple(3), simple(4)});
-        uniformOnAll(m);
-        cases.push_back({"three equal spans", m, {0.4 * w * L, 1.1 * w * L, 1.1 * w * L, 0.4 * w * L},
-                         {0, -0.1 * w * L * L, -0.1 * w * L * L, 0}, {0, 0, 0, 0}});
-    }
-    {
-        BeamModel m = beam(1, {fixed(1), simple(2)});
-        uniformOnAll(m);
-        cases.push_back({"propped cantilever", m, {5 * w * L / 8, 3 * w * L / 8}, {-w * L * L / 8, 0}, {w * L * L / 8, 0}});
-    }
-    {
-        BeamModel m = beam(1, {fixed(1), fixed(2)});
-        uniformOnAll(m);
-        cases.push_back({"fixed-fixed, uniform", m, {w * L / 2, w * L / 2}, {-w * L * L / 12, -w * L * L / 12},
-                         {w * L * L / 12, -w * L * L / 12}});
-    }
-    {
-        BeamModel m = beam(1, {fixed(1), fixed(2)});
-        m.barLoads.push_back({1, L / 2, 40, 0});
-        cases.push_back({"fixed-fixed, central load", m, {20, 20}, {-40 * L / 8, -40 * L / 8}, {40 * L / 8, -40 * L / 8}});
-    }
-    {
-        BeamModel m = beam(1, {fixed(1)});
-        m.nodalLoads.push_back({2, 10, 0});
-        cases.push_back({"cantilever", m, {10}, {-10 * L, 0}, {10 * L}});
-    }
-    {
-        // A column restraint as stiff as the far-pinned span (E Ig = 3 EI / L)
-        // takes half the fixed-end moment wL^2/8.
-        BeamModel m = beam(1, {{1, SupportType::Fixed, 3 * 1e-3 / L}, simple(2)});
-        uniformOnAll(m);
-        const double ma = -w * L * L / 16;
-        cases.push_back({"elastic end", m, {w * L / 2 - ma / L, w * L / 2 + ma / L}, {ma, 0}, {0, 0}});
-    }
+    BeamModel centralLoad = beam(1, {fixed(1), fixed(2)});
+    centralLoad.barLoads.push_back({1, L / 2, 40, 0});
+    // A column restraint as stiff as the far-pinned span (E Ig = 3 EI / L) takes
+    // half the fixed-end moment wL^2/8.
+    const double ma = -w * L * L / 16;
+    const Expected cases[] = {
+        {"two equal spans", uniformBeam(2, {simple(1), simple(2), simple(3)}),
+         {3 * w * L / 8, 10 * w * L / 8, 3 * w * L / 8}, {0, -w * L * L / 8, 0}, {0, 0, 0}},
+        {"three equal spans", uniformBeam(3, {simple(1), simple(2), simple(3), simple(4)}),
+         {0.4 * w * L, 1.1 * w * L, 1.1 * w * L, 0.4 * w * L}, {0, -0.1 * w * L * L, -0.1 * w * L * L, 0}, {0, 0, 0, 0}},
+        {"propped cantilever", uniformBeam(1, {fixed(1), simple(2)}), {5 * w * L / 8, 3 * w * L / 8}, {-w * L * L / 8, 0},
+         {w * L * L / 8, 0}},
+        {"fixed-fixed, uniform", uniformBeam(1, {fixed(1), fixed(2)}), {w * L / 2, w * L / 2},
+         {-w * L * L / 12, -w * L * L / 12}, {w * L * L / 12, -w * L * L / 12}},
+        {"fixed-fixed, central load", centralLoad, {20, 20}, {-40 * L / 8, -40 * L / 8}, {40 * L / 8, -40 * L / 8}},
+        {"cantilever", cantilever(10), {10}, {-10 * L, 0}, {10 * L}},
+        {"elastic end", uniformBeam(1, {{1, SupportType::Fixed, 3 * 1e-3 / L}, simple(2)}),
+         {w * L / 2 - ma / L, w * L / 2 + ma / L}, {ma, 0}, {0, 0}},
+    };
     for (const Expected& c : cases) {
         SCOPED_TRACE(c.name);
         const BeamResults r = analyseBeam(c.model);
@@ -107,9 +95,7 @@ TEST(ContinuousBeam, ClosedFormsAndEquilibrium) {
 
 TEST(ContinuousBeam, SpanPointsZeroMomentsAndDeflections) {
     // Propped cantilever: zero moment at L/4, largest 9wL^2/128 near 5L/8.
-    BeamModel m = beam(1, {fixed(1), simple(2)});
-    uniformOnAll(m);
-    BeamResults r = analyseBeam(m);
+    BeamResults r = analyseBeam(uniformBeam(1, {fixed(1), simple(2)}));
     ASSERT_EQ(r.status, BeamStatus::Done);
     ASSERT_EQ(r.spans[0].zeroMoments.size(), 1u);
     EXPECT_NEAR(r.spans[0].zeroMoments[0], L / 4, 1e-12);
@@ -118,32 +104,24 @@ TEST(ContinuousBeam, SpanPointsZeroMomentsAndDeflections) {
     EXPECT_NEAR(r.spans[0].maxShear, 5 * w * L / 8, 1e-9);
 
     // Simple span: midspan deflection 5wL^4/(384EI); cantilever tip PL^3/(3EI).
-    BeamModel simpleSpan = beam(1, {simple(1), simple(2)});
-    uniformOnAll(simpleSpan);
-    r = analyseBeam(simpleSpan);
+    r = analyseBeam(uniformBeam(1, {simple(1), simple(2)}));
     const double mid = 1000 * 5 * w * std::pow(L, 4) / (384 * EI);
     EXPECT_NEAR(r.spans[0].deflection[50], mid, 1e-3 * mid);
     // Integrated from the left support, the shape closes on the right one to a
     // thousandth of the midspan deflection.
     EXPECT_NEAR(r.spans[0].deflection[100], 0, 1e-3 * mid);
-    BeamModel cantilever = beam(1, {fixed(1)});
-    cantilever.nodalLoads.push_back({2, 10, 0});
-    r = analyseBeam(cantilever);
+    r = analyseBeam(cantilever(10));
     EXPECT_NEAR(r.spans[0].deflection[100], 1000 * 10 * std::pow(L, 3) / (3 * EI), 1e-2);
 
     // Two equal spans: the zero of the moment at 3L/4 of each span from the outer end.
-    BeamModel two = beam(2, {simple(1), simple(2), simple(3)});
-    uniformOnAll(two);
-    r = analyseBeam(two);
+    r = analyseBeam(uniformBeam(2, {simple(1), simple(2), simple(3)}));
     ASSERT_EQ(r.spans[0].zeroMoments.size(), 1u);
     EXPECT_NEAR(r.spans[0].zeroMoments[0], 0.75 * L, 1e-12);
     EXPECT_NEAR(r.spans[1].zeroMoments[0], 0.25 * L, 1e-12);
 }
 
 TEST(ContinuousBeam, DesignTableTakesTheFixedSpanWhereItGovernsAndTheLargerSupportMoment) {
-    BeamModel m = beam(3, {simple(1), simple(2), simple(3), simple(4)});
-    uniformOnAll(m);
-    const BeamResults r = analyseBeam(m);
+    const BeamResults r = analyseBeam(uniformBeam(3, {simple(1), simple(2), simple(3), simple(4)}));
     ASSERT_EQ(r.design.size(), 4u);
     // Outer spans: 0.08 wL^2 continuous beats 9/128 wL^2 propped; middle span:
     // wL^2/24 fixed-fixed beats 0.025 wL^2 continuous.
@@ -172,15 +150,12 @@ TEST(ContinuousBeam, StopsForMechanismsTooManyReactionsAndOverflow) {
 
     std::vector<BeamSupport> eleven;
     for (int j = 1; j <= 11; ++j) eleven.push_back(simple(j));
-    BeamModel many = beam(10, eleven);
-    uniformOnAll(many);
+    BeamModel many = uniformBeam(10, eleven);
     EXPECT_EQ(analyseBeam(many).status, BeamStatus::TooManyReactions);
     many.supports.pop_back();
     EXPECT_EQ(analyseBeam(many).status, BeamStatus::Done);
 
-    BeamModel huge = beam(1, {fixed(1)});
-    huge.nodalLoads.push_back({2, 1e308, 0});
-    EXPECT_EQ(analyseBeam(huge).status, BeamStatus::NotFinite);
+    EXPECT_EQ(analyseBeam(cantilever(1e308)).status, BeamStatus::NotFinite);
 }
 
 }  // namespace

@@ -1,13 +1,12 @@
-// Form34 as a user drives it: the tables that keep what was typed, the checks of
-// the picture buttons, and the report and pictures of a full run. The checks of the
-// buttons and of "CALCULAR" in order and the two-span closed form are cases in
-// tests/cases/continuous.
+// Form34 as a user drives it: the tables that keep what was typed, and the report
+// and pictures of a full run. The checks of the buttons, of the picture buttons and
+// of "CALCULAR" in order and the two-span closed form are cases in
+// tests/cases/continuous; the start dialog's concrete is in tests/cases/startup.
 #include <gtest/gtest.h>
 
 #include <cmath>
 
 #include "../beams/beam_session.h"
-#include "../stop_expectations.h"
 #include "continuous/form34_texts.h"
 
 using namespace morve;
@@ -31,14 +30,6 @@ BeamRun twoSpans(std::vector<std::string> answers = {}) {
     return run;
 }
 
-TEST(Form34, OpensWithTheConcreteOfTheStartDialog) {
-    StartDefaults thirty;
-    ASSERT_TRUE(thirty.select(1, "30"));
-    ModuleSession session(*ModuleRegistry::find("Form34"), thirty);
-    EXPECT_EQ(session.state().text("Text1"), "30");
-    EXPECT_EQ(session.state().text("Text2"), "28517");  // 18275 (3.8)^(1/3) by CEB/90
-}
-
 TEST(Form34, TablesKeepWhatWasTypedWhenACountGrows) {
     BeamRun run = twoSpans();
     run.set({{"Text3", "4"}, {"Text4", "5"}});
@@ -53,41 +44,6 @@ TEST(Form34, TablesKeepWhatWasTypedWhenACountGrows) {
     EXPECT_EQ(bars[3], (std::vector<std::string>{"3", "5", "100000"}));
     run.press("Form34b.Command4");
     EXPECT_EQ(bars[3], (std::vector<std::string>{"3", " ", " "}));
-}
-
-TEST(Form34, PictureButtonsCheckTheirTablesWithTheirOwnWords) {
-    using Edit = std::function<void(FormState&)>;
-    const struct {
-        const char* what;
-        Edit edit;
-        std::string command, text;
-    } cases[] = {
-        {"blank length", [](FormState& s) { s.grid("Form34b.Grade1")[2][1] = " "; }, "Form34b.Command1", txt34::kAllLengths},
-        {"support node", [](FormState& s) { s.grid("Form34b.Grade2")[1][0] = "9"; }, "Form34b.Command1", txt34::kBadSupportNode},
-        {"support type", [](FormState& s) { s.grid("Form34b.Grade2")[1][1] = "0"; }, "Form34b.Command1", txt34::kBadSupportType},
-        {"back to the lengths", [](FormState& s) { s.grid("Form34b.Grade1")[1][1] = "0"; }, "Form34c.Command1", txt34::kBackLengths},
-        // Segments are checked before the concentrated loads, and the latter have
-        // a zero-sum message of their own here.
-        {"segments first",
-         [](FormState& s) {
-             s.grid("Form34c.Grade3")[1][0] = "7";
-             s.grid("Form34c.Grade2") = {{"Vão", "a", "P", "M"}, {"9", "1", "1", "0"}};
-         },
-         "Form34c.Command1", txt34::kSegmentSpan},
-        {"bar loads all zero",
-         [](FormState& s) { s.grid("Form34c.Grade2") = {{"Vão", "a", "P", "M"}, {"1", "1", "0", "0"}}; },
-         "Form34c.Command1", txt34::kBarLoadZeroTable},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.what);
-        BeamRun run = twoSpans();
-        c.edit(run.session.state());
-        expectStop(run.prompter, run.press(c.command), c.text, MessageKind::Warning, "");
-    }
-    BeamRun run = twoSpans();
-    const Outcome shown = run.press("Form34c.Command1");
-    EXPECT_TRUE(shown.completed);
-    EXPECT_EQ(shown.effects.back(), (ScreenEffect{EffectKind::ShowScreen, "Form34c2"}));
 }
 
 TEST(Form34, TwoSpansEndToEnd) {

@@ -169,7 +169,7 @@ TEST(ProjectFile, EveryModuleReadsBackItsOwnFileOfTwentyRowTables) {
             EXPECT_EQ(opened.text(name), s.text(name)) << name;
             EXPECT_EQ(opened.grid(name), s.grid(name)) << name;
         }
-        if (!result.empty()) EXPECT_EQ(opened.text(result), "") << result << " still shows the last case";
+        if (!result.empty()) { EXPECT_EQ(opened.text(result), "") << result << " still shows the last case"; }
         EXPECT_FALSE(opened.enabled(key + ".Toolbar1.Imprimir")) << key;
     }
 }

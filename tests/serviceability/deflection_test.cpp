@@ -27,12 +27,7 @@ double crackedInertia(double b, double n) {
     return b * x * x * x / 3 + n * 6 * (45 - x) * (45 - x);
 }
 
-SpanLoads uniformSpan(double l, double p) {
-    SpanLoads s;
-    s.span = l;
-    s.uniform = {{0, l, p}};
-    return s;
-}
+SpanLoads uniformSpan(double l, double p) { return {.span = l, .uniform = {{0, l, p}}}; }
 
 TEST(CurvatureIntegration, ClosedFormsOfTheElasticBeam) {
     const double ei = 1e6;  // kN cm2 stands for any EI
@@ -46,18 +41,13 @@ TEST(CurvatureIntegration, ClosedFormsOfTheElasticBeam) {
     // 0.8 (h/l)^2 = 8E-5 of 5 p l^4 / (384 EI).
     EXPECT_NEAR(deflection(uniformSpan(5, 20)) / (5 * p * l * l * l * l / (384 * ei)), 1 - 8e-5, 1e-10);
     // Point load at mid-span: piecewise linear moment, exact.
-    SpanLoads point;
-    point.span = 5;
-    point.points = {{2.5, 30, 0}};
-    EXPECT_NEAR(deflection(point) / (30 * l * l * l / (48 * ei)), 1, 1e-12);
+    EXPECT_NEAR(deflection({.span = 5, .points = {{2.5, 30, 0}}}) / (30 * l * l * l / (48 * ei)), 1, 1e-12);
     // Fixed ends: Xa = Xb = -p l^2/12 give p l^4/(384 EI); the same loss is 4E-4 of it.
     SpanLoads fixed = uniformSpan(5, 20);
     fixed.xa = fixed.xb = -20 * 25 / 12.0;
     EXPECT_NEAR(deflection(fixed) / (p * l * l * l * l / (384 * ei)), 1 - 4e-4, 1e-10);
     // A clockwise couple C at mid-span bends the halves opposite ways: no deflection there.
-    SpanLoads couple;
-    couple.span = 5;
-    couple.points = {{2.5, 0, 40}};
+    const SpanLoads couple{.span = 5, .points = {{2.5, 0, 40}}};
     EXPECT_NEAR(deflection(couple), 0, 1e-12);
     EXPECT_NEAR(bendingMoment(couple, 2.5 + 1e-9) - bendingMoment(couple, 2.5 - 1e-9), 40, 1e-6);
     EXPECT_NEAR(bendingMoment(couple, 1.25), -10, 1e-12);  // reaction -C/l at the left
@@ -126,10 +116,7 @@ TEST(DeflectionMethods, CrackedBeamByHand) {
     EXPECT_NEAR(r.wo, 5 * 0.2 * std::pow(600.0, 4) / (384 * 2575.7 * ieq) * (1 - 8e-5), 1e-12);
     // A constant moment M0 = 50 kNm (the end moments alone): every station alike, so
     // the integral is chi l^2/8 and each method's interpolation shows by hand.
-    SpanLoads constant;
-    constant.span = 6;
-    constant.xa = constant.xb = 50;
-    const ServiceResults c = serviceAnalysis(beam(), false, materials(), 12.5, constant);
+    const ServiceResults c = serviceAnalysis(beam(), false, materials(), 12.5, {.span = 6, .xa = 50, .xb = 50});
     const double scale = 5000 * 600.0 * 600 / (8 * 2575.7);
     const double zetaEc2 = 1 - 0.5 * std::pow(mr / 5000, 2), zetaCeb = 1 - 0.5 * mr / 5000;
     EXPECT_NEAR(c.ec2, scale * ((1 - zetaEc2) / kIc + zetaEc2 / i2), 1e-12);
@@ -143,16 +130,13 @@ TEST(DeflectionMethods, UnloadedSpanAndHoggingGiveNumbers) {
     const std::pair<ServiceSection, bool> sections[] = {
         {beam(), false}, {beam(2), false}, {ServiceSection::tee(60, 10, 20, 50, 45, 4, 6, 0), true}};
     for (const auto& [section, tee] : sections) {
-        const ServiceResults r = serviceAnalysis(section, tee, materials(2.5, 0.0005), 12.5, SpanLoads{4});
+        const ServiceResults r = serviceAnalysis(section, tee, materials(2.5, 0.0005), 12.5, {.span = 4});
         for (double v : {r.ec2, r.bilinear, r.practical, r.wo, r.nbr, r.crackCeb, r.crackNbr}) EXPECT_TRUE(std::isfinite(v));
         EXPECT_EQ(r.wo, 0);
         EXPECT_EQ(r.crackNbr, 0);
     }
     // Hogging everywhere counts as uncracked: the short-term methods fall back to Ic.
-    SpanLoads hogging;
-    hogging.span = 4;
-    hogging.xa = hogging.xb = -80;
-    const ServiceResults r = serviceAnalysis(beam(), false, materials(), 12.5, hogging);
+    const ServiceResults r = serviceAnalysis(beam(), false, materials(), 12.5, {.span = 4, .xa = -80, .xb = -80});
     EXPECT_NEAR(r.ec2, -8000 * 400.0 * 400 / (8 * 2575.7 * kIc), 1e-12);
 }
 
