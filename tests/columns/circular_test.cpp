@@ -1,5 +1,6 @@
 // Solid and hollow circular sections: design (Form14, Form14c) against
-// verification (Form15, Form25), the plain-concrete half disc, and ho = 0.
+// verification (Form15, Form25), the plain-concrete half disc, and ho = 0. Centred
+// loads and the limits of the bar size are cases in tests/cases/columns.
 #include <cmath>
 
 #include "column_case.h"
@@ -68,36 +69,4 @@ TEST(CircularColumn, HollowCircleWithoutHoleIsTheSolidOne) {
     ColumnCase ringCheck = verification(true, "1400", "15");
     ringCheck.set["Text11"] = "0";
     EXPECT_EQ(ringCheck.press().text("Text9"), verification(false, "1400", "15").press().text("Text8"));
-}
-
-TEST(CircularColumn, CentredLoadAndTheBarLimit) {
-    // Mk = 0: the ring takes (Nd - Ac 0.9 alphac fcd) / 42 without a search.
-    // 60 cm, Nd = 4200: Ac sigma_cd = 2827.43 x 1.0929 = 3090.0; As = 1110 / 42 = 26.43.
-    auto r = design(false, "3000", "0").press();
-    ASSERT_TRUE(r.outcome.completed);
-    EXPECT_EQ(r.text("Text9"), "26.43");
-    EXPECT_EQ(r.text("Text13"), "20");  // 16.7 mm for 12 bars
-    // Six bars for 31 cm2 need 25.6 mm.
-    ColumnCase few = design(false, "3110", "0");
-    few.set["Text6"] = "6";
-    auto f = few.press();
-    EXPECT_FALSE(f.outcome.completed);
-    ASSERT_EQ(f.messages.size(), 1u);
-    EXPECT_EQ(f.messages[0].text,
-              "Resultou um diâmetro das barras superior a 25mm. Você pode empregar feixes de barras ou alterar o "
-              "número de barras na seção.");
-    EXPECT_EQ(f.text("Text12"), " ");
-    // 19 cm takes h/8 = 23.75 mm at most, and six bars for about 20 cm2 need 25.
-    ColumnCase thin = design(false, "820", "0");
-    thin.set["Text4"] = "19";
-    thin.set["Text5"] = "3";
-    thin.set["Text6"] = "6";
-    auto t = thin.press();
-    EXPECT_FALSE(t.outcome.completed);
-    ASSERT_FALSE(t.messages.empty());
-    EXPECT_EQ(t.messages.back().text,
-              "Resultou um diâmetro das barras superior ao valor máximo (h/8) estabelecido na NBR-6118.");
-    EXPECT_EQ(t.text("Text12"), "6");
-    EXPECT_EQ(t.text("Text13"), "25");
-    EXPECT_EQ(t.text("Text19"), " ");
 }

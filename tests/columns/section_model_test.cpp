@@ -76,23 +76,16 @@ TEST(ConcreteBlock, ZeroDepthAndFullSection) {
     }
 }
 
-TEST(Layers, RectangularLayersSpanTheTwoCoverPlanes) {
-    const LayeredSection s = rectangularLayers({3, 2, 4}, 0.1);
-    EXPECT_EQ(s.total, 9);
-    EXPECT_DOUBLE_EQ(s.beta[0], 0.9);  // layer 1 at the tensioned edge
-    EXPECT_DOUBLE_EQ(s.beta[1], 0.5);
-    EXPECT_DOUBLE_EQ(s.beta[2], 0.1);
-}
-
-TEST(Layers, RingOfSixBarsHasFourLayers) {
-    const LayeredSection s = ringLayers(6, 0.1);
-    ASSERT_EQ(s.layers(), 4);
-    EXPECT_EQ(s.bars, (std::vector<int>{1, 2, 2, 1}));
-    // Bars at 0, 60, 120 and 180 degrees on a ring of radius 0.4 h.
-    EXPECT_NEAR(s.beta[3], 0.1, 1e-9);
-    EXPECT_NEAR(s.beta[2], 0.5 - 0.4 * 0.5, 1e-9);
-    EXPECT_NEAR(s.beta[1], 0.5 + 0.4 * 0.5, 1e-9);
-    EXPECT_NEAR(s.beta[0], 0.9, 1e-9);
+// Layer 1 at the tensioned edge, the last at the compressed cover; the ring's six
+// bars at 0, 60, 120 and 180 degrees on a radius of 0.4 h make four layers.
+TEST(Layers, RectangleAndRingSpanTheTwoCoverPlanes) {
+    const LayeredSection rect = rectangularLayers({3, 2, 4}, 0.1), ring = ringLayers(6, 0.1);
+    EXPECT_EQ(rect.total, 9);
+    EXPECT_EQ(ring.bars, (std::vector<int>{1, 2, 2, 1}));
+    for (const auto& [s, beta] : {std::pair{&rect, std::vector{0.9, 0.5, 0.1}}, {&ring, {0.9, 0.7, 0.3, 0.1}}}) {
+        ASSERT_EQ(s->layers(), static_cast<int>(beta.size()));
+        for (std::size_t i = 0; i < beta.size(); ++i) EXPECT_NEAR(s->beta[i], beta[i], 1e-9) << i;
+    }
 }
 
 TEST(SolveNeutralAxis, StopsWithAMessageWhenThereIsNoRoot) {

@@ -97,12 +97,8 @@ TEST(Form19Design, SymmetricSteelBalancesTheForcesOfItsStrainPlane) {
 }
 
 TEST(Form19Design, WholeSectionInTensionByTheLeverRule) {
-    // Mk 0: half the tie on each face; Mk 5: the more tensioned face carries
-    // 140 + 700 / 32 = 161.875 kN -> 3.723 cm2, and so both faces.
-    EXPECT_EQ(calculate("Form19", "0", "200")->text("Text10"), "3.22");
-    EXPECT_EQ(calculate("Form19", "5", "200")->text("Text10"), "3.72");
-    SymmetricTie r = designSymmetricTie(section20x36(5, 200));
-    EXPECT_TRUE(r.tieCase);
+    // Nk 200 with Mk 5 is still a tie; its steel by hand is a case in tests/cases/columns.
+    EXPECT_TRUE(designSymmetricTie(section20x36(5, 200)).tieCase);
 }
 
 TEST(TieModules, CaptionsAndEffectsOfEachModule) {

@@ -33,35 +33,31 @@ FrameLoading wind(std::vector<double> forces, std::vector<double> vertical = {},
 double relative(double a, double b) { return std::abs(a - b) / std::max(std::abs(b), 1e-300); }
 
 // Dense Gaussian elimination of the full stiffness, base dof removed.
-std::vector<double> denseSolve(const FrameModel& m, const std::vector<FrameBar>& bars, const std::vector<double>& load) {
-    const int n = m.equations(), fixed = kFrameDof * m.lines();
-    std::vector<std::vector<double>> k(static_cast<std::size_t>(n), std::vector<double>(static_cast<std::size_t>(n)));
+std::vector<double> denseSolve(const FrameModel& m, const std::vector<FrameBar>& bars, std::vector<double> f) {
+    const std::size_t n = static_cast<std::size_t>(m.equations()), fixed = static_cast<std::size_t>(kFrameDof * m.lines());
+    std::vector<double> store(n * n, 0.0), u(n);
+    auto k = [&](std::size_t i, std::size_t j) -> double& { return store[i * n + j]; };
     for (const FrameBar& b : bars) {
         const ElementStiffness e = FrameBarStiffness(b, m.position(b.a), m.position(b.b));
-        const int first[2] = {kFrameDof * (b.a - 1), kFrameDof * (b.b - 1)};
+        const std::size_t first[2] = {std::size_t(kFrameDof * (b.a - 1)), std::size_t(kFrameDof * (b.b - 1))};
         for (int i = 0; i < 6; ++i)
-            for (int j = 0; j < 6; ++j)
-                k[static_cast<std::size_t>(first[i / 3] + i % 3)][static_cast<std::size_t>(first[j / 3] + j % 3)] +=
-                    e(i + 1, j + 1);
+            for (int j = 0; j < 6; ++j) k(first[i / 3] + i % 3, first[j / 3] + j % 3) += e(i + 1, j + 1);
     }
-    std::vector<double> f(load);
-    for (int i = 0; i < fixed; ++i) {
-        for (int j = 0; j < n; ++j) k[static_cast<std::size_t>(i)][static_cast<std::size_t>(j)] = k[static_cast<std::size_t>(j)][static_cast<std::size_t>(i)] = 0;
-        k[static_cast<std::size_t>(i)][static_cast<std::size_t>(i)] = 1;
-        f[static_cast<std::size_t>(i)] = 0;
+    for (std::size_t i = 0; i < fixed; ++i) {
+        for (std::size_t j = 0; j < n; ++j) k(i, j) = k(j, i) = 0;
+        k(i, i) = 1;
+        f[i] = 0;
     }
-    for (int c = 0; c < n; ++c)
-        for (int r = c + 1; r < n; ++r) {
-            const double q = k[static_cast<std::size_t>(r)][static_cast<std::size_t>(c)] / k[static_cast<std::size_t>(c)][static_cast<std::size_t>(c)];
-            if (q == 0) continue;
-            for (int j = c; j < n; ++j) k[static_cast<std::size_t>(r)][static_cast<std::size_t>(j)] -= q * k[static_cast<std::size_t>(c)][static_cast<std::size_t>(j)];
-            f[static_cast<std::size_t>(r)] -= q * f[static_cast<std::size_t>(c)];
+    for (std::size_t c = 0; c < n; ++c)
+        for (std::size_t r = c + 1; r < n; ++r) {
+            const double q = k(r, c) / k(c, c);
+            for (std::size_t j = c; j < n && q != 0; ++j) k(r, j) -= q * k(c, j);
+            f[r] -= q * f[c];
         }
-    std::vector<double> u(static_cast<std::size_t>(n));
-    for (int r = n - 1; r >= 0; --r) {
-        double s = f[static_cast<std::size_t>(r)];
-        for (int j = r + 1; j < n; ++j) s -= k[static_cast<std::size_t>(r)][static_cast<std::size_t>(j)] * u[static_cast<std::size_t>(j)];
-        u[static_cast<std::size_t>(r)] = s / k[static_cast<std::size_t>(r)][static_cast<std::size_t>(r)];
+    for (std::size_t r = n; r-- > 0;) {
+        double s = f[r];
+        for (std::size_t j = r + 1; j < n; ++j) s -= k(r, j) * u[j];
+        u[r] = s / k(r, r);
     }
     return u;
 }

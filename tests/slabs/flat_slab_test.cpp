@@ -3,7 +3,6 @@
 // equilibrium, the symmetry of symmetric floors, and Form40 as a user drives it.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
 
 #include "../beams/beam_session.h"
@@ -148,13 +147,10 @@ TEST(Form40, CentralColumnEndToEnd) {
     }
     EXPECT_NEAR(edges + column, 288, 0.03);
 
+    // The report gives the loads of the screen; its data typed are a case in tests/cases/slabs.
     const std::vector<std::string> report = run.report("Form40");
-    for (const std::string& line : std::vector<std::string>{"Espessura: h= 20 cm", "Vãos: lx= 6 m                    ly= 6 m",
-                                   "Pilar= 1     X (m)= 3            Y (m)= 3",
-                                   "Pilar= 1     Carga= " + s.cell("Form40c.Grade1", 1, 1) + " kN",
-                                   "Em x=lx:     R4= " + s.text("Form40c.Text4") + " kN",
-                                   "Momentos fletores, torçores e flechas: imprimir ou salvar gráficos"})
-        EXPECT_NE(std::find(report.begin(), report.end(), line), report.end()) << line;
+    EXPECT_EQ(report.at(20), "Pilar= 1     Carga= " + s.cell("Form40c.Grade1", 1, 1) + " kN");
+    EXPECT_EQ(report.at(26), "Em x=lx:     R4= " + s.text("Form40c.Text4") + " kN");
 
     // The four surfaces on one picture, each with its title; "&Salvar" hands the
     // picture to the front end.

@@ -54,15 +54,12 @@ TEST(Form24f, ResultsReportAndPictures) {
     run.mesh();
     ASSERT_TRUE(run.press("Command1").completed);
     const FormState& s = run.session.state();
-    // A square on four equal supports: equal mean reactions that carry (5 + 2) x 16.
-    for (int side = 1; side <= 4; ++side) EXPECT_NEAR(s.cellNumber("Form24f.Grade2", side, 1), 7.0 * 16 / 16, 0.01);
-    // Mx and My alike by symmetry; the creep of 2 triples the quasi-permanent value.
+    // Mx and My alike by symmetry; the creep of 2 triples the quasi-permanent value,
+    // and the report gives the deflection of the screen. The reactions by hand and
+    // the report's data are a case in tests/cases/slabs.
     EXPECT_EQ(s.cell("Form24f.Grade1", 1, 1), s.cell("Form24f.Grade1", 2, 1));
     EXPECT_NEAR(run.number("Text10"), 3 * run.number("Text9"), 0.02);
-    const std::vector<std::string> lines = run.report("Form24f");
-    for (const std::string& line : std::vector<std::string>{"Rigidez à torção relativa J/J1= 1", "Lado 4        apoio simples",
-                                    "Flecha final máxima: Wtot= " + run.text("Text10") + " mm"})
-        EXPECT_NE(std::find(lines.begin(), lines.end(), line), lines.end()) << line;
+    EXPECT_EQ(run.report("Form24f").at(32), "Flecha final máxima: Wtot= " + run.text("Text10") + " mm");
     EXPECT_FALSE(run.session.module().drawing("Form24h.Picture1", s).empty());
     EXPECT_FALSE(run.session.module().drawing("Form24j.Picture1", s).empty());
 }
