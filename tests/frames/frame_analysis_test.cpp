@@ -105,7 +105,9 @@ TEST(PlaneFrame, PortalAgainstSlopeDeflection) {
             EXPECT_LT(relative(std::abs(r.ends[c][2]), std::abs(base)), 2e-6) << ib;
             EXPECT_LT(relative(std::abs(r.ends[c][5]), std::abs(top)), 2e-6) << ib;
         }
-        if (ib > 1) EXPECT_NEAR(std::abs(base), force * h / 4, 1e-3);
+        if (ib > 1) {
+            EXPECT_NEAR(std::abs(base), force * h / 4, 1e-3);
+        }
     }
 }
 
