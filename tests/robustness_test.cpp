@@ -79,9 +79,10 @@ public:
         }
         const auto elapsed = std::chrono::steady_clock::now() - start;
         EXPECT_LT(elapsed, std::chrono::seconds(1)) << where_ << " " << trial << " " << command;
-        if (!outcome.completed && outcome.refused.empty())
+        if (!outcome.completed && outcome.refused.empty()) {
             EXPECT_FALSE(prompter.messages().empty())
                 << where_ << " " << trial << " " << command << ": a stop without a message";
+        }
         for (const auto& m : prompter.messages()) expectNumbers(m.text, trial + " message");
         const FormState& state = session.state();
         for (const auto& [name, text] : state.texts()) expectNumbers(text, trial + " " + name);

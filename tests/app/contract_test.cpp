@@ -105,7 +105,7 @@ TEST(FormState, QualifiesNamesAndKeepsGroupsListsAndGrids) {
         .command("Command1", "&OK")
         .disabled();
     ScreenBuilder b("FormAb", "B", false);
-    b.grid("Grade1", GridDecl{{"Camada", "Barras"}, 2, 300, KeyFilter::Digit, true});
+    b.grid("Grade1", GridDecl{{"Camada", "Barras"}, 2, 300, KeyFilter::Digit, true, false, {}});
     FormState s("FormA", {a.build(), b.build()});
 
     EXPECT_EQ(s.qualify("Text1"), "FormA.Text1");

@@ -25,7 +25,7 @@ class GridEditingTest : public QObject {
     Q_OBJECT
     // Spans with their length and load, at most four, and a box after the grid.
     ScreenDecl decl = ScreenBuilder("FormG", "")
-                          .grid("Grade1", GridDecl{{"Vão", "L (m)", "q (kN/m)"}, 2, 4, KeyFilter::PositiveNumber, true})
+                          .grid("Grade1", GridDecl{{"Vão", "L (m)", "q (kN/m)"}, 2, 4, KeyFilter::PositiveNumber, true, false, {}})
                           .box("Text1", "Observação")
                           .build();
     std::unique_ptr<ScreenWindow> w;

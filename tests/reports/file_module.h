@@ -23,8 +23,8 @@ public:
             .check("Check1", "Considerar peso próprio")
             .command("Command1", "&CALCULAR");
         morve::ScreenBuilder loads("Form90b", "Cargas", false);
-        loads.grid("Grade1", morve::GridDecl{{"Vão", "L (m)", "q (kN/m)"}, 2, 30, morve::KeyFilter::PositiveNumber, true})
-            .grid("Grade2", morve::GridDecl{{"Nó", "Restrição"}, 1, 0, morve::KeyFilter::SignedNumber, false});
+        loads.grid("Grade1", morve::GridDecl{{"Vão", "L (m)", "q (kN/m)"}, 2, 30, morve::KeyFilter::PositiveNumber, true, false, {}})
+            .grid("Grade2", morve::GridDecl{{"Nó", "Restrição"}, 1, 0, morve::KeyFilter::SignedNumber, false, false, {}});
         return {main.build(), loads.build()};
     }
     morve::Outcome press(const std::string&, morve::FormState&, morve::Prompter&) const override {

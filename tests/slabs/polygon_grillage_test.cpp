@@ -88,7 +88,9 @@ TEST(Grillage, ClampedSquareAgainstThePlateTable) {
     for (const int n : {4, 6, 8, 12, 16, 20}) {
         const double w = GrillageRun(rectangle(1, 1, SideSupport::Fixed), n).r.wmax;
         EXPECT_GT(w, previous) << n;
-        if (n >= 6) EXPECT_NEAR(w / 0.00126, 1, n == 6 ? 0.035 : 0.05) << n;
+        if (n >= 6) {
+            EXPECT_NEAR(w / 0.00126, 1, n == 6 ? 0.035 : 0.05) << n;
+        }
         previous = w;
     }
 }
@@ -151,7 +153,9 @@ TEST(Grillage, ReactionsCarryTheWholeLoad) {
             double total = 0;
             for (int s = 0; s < p.count(); ++s) {
                 total += r.sideReaction[s] * sideLength(p, s);
-                if (c.sides[s] == S::Free) EXPECT_EQ(r.sideReaction[s], 0);
+                if (c.sides[s] == S::Free) {
+                    EXPECT_EQ(r.sideReaction[s], 0);
+                }
             }
             EXPECT_NEAR(total, 7.5 * polygonArea(p.vertices), 1e-9 * total) << p.count() << " " << n;
         }
