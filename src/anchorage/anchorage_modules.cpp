@@ -1,6 +1,7 @@
 #include "anchorage/anchorage_modules.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "anchorage/anchorage_length.h"
 #include "anchorage/anchorage_trace.h"
@@ -153,6 +154,11 @@ Outcome AnchorageModule::calculate(FormState& s, Prompter& prompter) const {
             break;
     }
     const AnchorageLengths lengths = anchorageLengths(demand);
+    // A steel far past any real class, kept after the steel-class question, can carry
+    // the length past what a number holds; say so rather than leave the boxes blank.
+    checks.warnIf(!std::isfinite(lengths.straight) || !std::isfinite(lengths.hooked),
+                  "Com este valor de fyk o comprimento de ancoragem é grande demais para ser calculado.", "Text2");
+    if (checks.stopped()) return checks.outcome();
     traceAnchorage(TraceRecorder(prompter.trace()), {form_.kind, fck, fyk, phi, *surface, goodBond, tension,
                                                      support ? s.number("Text5") : 0, demand, lengths});
     s.setText("Text6", formatResult(lengths.straight, 0));
