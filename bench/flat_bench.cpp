@@ -28,14 +28,8 @@ void Form40Calculation(benchmark::State& state) { bench::timePress(state, fortyC
 BENCHMARK(Form40Calculation)->Unit(benchmark::kMillisecond);
 
 void Form40SurfaceDrawing(benchmark::State& state) {
-    nlohmann::json c = fortyColumns();
-    c["press"].push_back("Command3");
-    std::string fault;
-    auto session = bench::preparedCase(c, fault);
-    if (!session) {
-        state.SkipWithError(fault.c_str());
-        return;
-    }
+    auto session = bench::sessionFor(state, fortyColumns(), "Command3");
+    if (!session) return;
     for (auto _ : state) {
         Drawing d = session->module().drawing("Form40d.Picture1", session->state());
         benchmark::DoNotOptimize(d);

@@ -29,14 +29,8 @@ void Form34Calculation(benchmark::State& state) { bench::timePress(state, twenty
 BENCHMARK(Form34Calculation)->Unit(benchmark::kMillisecond);
 
 void Form34Report(benchmark::State& state) {
-    nlohmann::json c = twentyBars();
-    c["press"].push_back("Command3");
-    std::string fault;
-    auto session = bench::preparedCase(c, fault);
-    if (!session) {
-        state.SkipWithError(fault.c_str());
-        return;
-    }
+    auto session = bench::sessionFor(state, twentyBars(), "Command3");
+    if (!session) return;
     for (auto _ : state) {
         ReportWriter w;
         generateReport("Form34", session->module(), session->state(), w);

@@ -32,14 +32,21 @@ inline std::unique_ptr<morve::ModuleSession> preparedCase(const nlohmann::json& 
     return std::move(run.session);
 }
 
-// Times one press of a prepared case; a case that does not complete is an error.
-inline void timePress(benchmark::State& state, const nlohmann::json& caseFile, const std::string& command) {
+// The session after the case's presses and then `then` (when given), or null with
+// the benchmark marked as an error.
+inline std::unique_ptr<morve::ModuleSession> sessionFor(benchmark::State& state, nlohmann::json caseFile,
+                                                        const std::string& then = "") {
+    if (!then.empty()) caseFile["press"].push_back(then);
     std::string fault;
     std::unique_ptr<morve::ModuleSession> session = preparedCase(caseFile, fault);
-    if (!session) {
-        state.SkipWithError(fault.c_str());
-        return;
-    }
+    if (!session) state.SkipWithError(fault.c_str());
+    return session;
+}
+
+// Times one press of a prepared case; a case that does not complete is an error.
+inline void timePress(benchmark::State& state, const nlohmann::json& caseFile, const std::string& command) {
+    std::unique_ptr<morve::ModuleSession> session = sessionFor(state, caseFile);
+    if (!session) return;
     // Each press starts from the prepared case, as a user's first press does: a
     // second press on the results may be refused or stop.
     for (auto _ : state) {
