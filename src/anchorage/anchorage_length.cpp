@@ -39,24 +39,23 @@ const std::vector<std::string>& barSurfaceItems() {
     return items;
 }
 
+double bondZoneCoefficient(bool goodBond) { return goodBond ? 1.0 : 0.7; }
+
 double bondStrength(double fck, BarSurface surface, bool goodBond) {
-    double eta1 = 1.0;
-    for (const auto& row : kSurfaces)
-        if (row.surface == surface) eta1 = row.eta1;
-    const double eta2 = goodBond ? 1.0 : 0.7;
+    const double eta1 = surfaceCoefficient(surface), eta2 = bondZoneCoefficient(goodBond);
     // fctd of the concrete, with the logarithmic law of the high-strength classes.
     const double fc = fck / 1.4;
     const double f0 = fck <= 50 ? 0.42 * std::cbrt(fc * fc) : 2.4 * std::log(1 + 0.15 * fc);
     return eta1 * eta2 * f0;
 }
 
+double bondLength(double phi, double fyk, double fbd) { return phi * (fyk / 1.15) / (4 * fbd); }
+
 double basicAnchorageLength(double phi, double fyk, double fbd) {
-    const double fyd = fyk / 1.15;
-    const double lb = phi * fyd / (4 * fbd);
     // 25 phi is the least basic length for every surface and bond zone: a good bond
     // shortens lb down to it, never below, and a poor one lengthens it as far as the
     // bond asks.
-    return std::max(lb, 25 * phi);
+    return std::max(bondLength(phi, fyk, fbd), 25 * phi);
 }
 
 AnchorageLengths anchorageLengths(const AnchorageDemand& d) {
@@ -66,11 +65,12 @@ AnchorageLengths anchorageLengths(const AnchorageDemand& d) {
 
 double anchorageMinimum(double lb, double phi) { return std::max({0.3 * lb, 10 * phi, 10.0}); }
 
-double supportHookMinimum(double phi, double fyk) {
-    double radius = 3 * phi;
-    if (fyk < 550) radius = phi < 2 ? 2.5 * phi : 4 * phi;
-    return std::max(radius + 5.5 * phi, 6.0);
+double hookBendRadius(double phi, double fyk) {
+    if (fyk < 550) return phi < 2 ? 2.5 * phi : 4 * phi;
+    return 3 * phi;
 }
+
+double supportHookMinimum(double phi, double fyk) { return std::max(hookBendRadius(phi, fyk) + 5.5 * phi, 6.0); }
 
 double lapMinimum(double lb, double phi, double factor, bool tension) {
     const double least = std::max(15 * phi, 20.0);

@@ -17,8 +17,12 @@ const std::vector<std::string>& barSurfaceItems();
 
 // Design bond strength fbd (MPa) of a bar of the surface in good or poor bond.
 double bondStrength(double fck, BarSurface surface, bool goodBond);
+// eta2 of the bond zone: 1 in good bond, 0.7 in poor.
+double bondZoneCoefficient(bool goodBond);
 
-// Basic anchorage length lb (cm) of a bar of phi cm, never below 25 phi.
+// The length phi fyd / (4 fbd) (cm) that the bond alone asks of a bar of phi cm.
+double bondLength(double phi, double fyk, double fbd);
+// Basic anchorage length lb (cm): the bond's length, never below 25 phi.
 double basicAnchorageLength(double phi, double fyk, double fbd);
 
 // What a case asks of the bar: lb scaled by the ratio As,cal/Ase and the lap factor
@@ -40,8 +44,9 @@ AnchorageLengths anchorageLengths(const AnchorageDemand& demand);
 
 // The least length of a straight anchorage: 0.3 lb, 10 phi, 10 cm.
 double anchorageMinimum(double lb, double phi);
-// Hook at an end support: the bend radius by steel and diameter, plus 5.5 phi,
-// at least 6 cm.
+// Bend radius (cm) of a hook by steel and diameter.
+double hookBendRadius(double phi, double fyk);
+// Hook at an end support: the bend radius plus 5.5 phi, at least 6 cm.
 double supportHookMinimum(double phi, double fyk);
 // A lap: 15 phi and 20 cm, then 0.3 a0 lb in tension or 0.6 lb in compression.
 double lapMinimum(double lb, double phi, double factor, bool tension);

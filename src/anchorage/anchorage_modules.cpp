@@ -160,7 +160,7 @@ Outcome AnchorageModule::calculate(FormState& s, Prompter& prompter) const {
                   "Com este valor de fyk o comprimento de ancoragem é grande demais para ser calculado.", "Text2");
     if (checks.stopped()) return checks.outcome();
     traceAnchorage(TraceRecorder(prompter.trace()), {form_.kind, fck, fyk, phi, *surface, goodBond, tension,
-                                                     support ? s.number("Text5") : 0, demand, lengths});
+                                                     support ? s.number("Text5") : 0, asCal, demand, lengths});
     s.setText("Text6", formatResult(lengths.straight, 0));
     s.setText("Text7", formatResult(lengths.hooked, 0));
     return Outcome::done().then(EffectKind::EnableControl, printButton(form_.key));

@@ -13,7 +13,7 @@ const char* kBondClause = "NBR-6118:2014, 9.3.2.1";
 const char* kBasicClause = "NBR-6118:2014, 9.4.2.4";
 
 void traceBasicLength(TraceRecorder rec, const AnchorageTraceInput& in) {
-    const double eta1 = surfaceCoefficient(in.surface), eta2 = in.goodBond ? 1.0 : 0.7;
+    const double eta1 = surfaceCoefficient(in.surface), eta2 = bondZoneCoefficient(in.goodBond);
     const double fbd = bondStrength(in.fck, in.surface, in.goodBond);
     rec.stage("Comprimento de ancoragem básico");
     rec.note(std::string("η1 = ") + traceNumber(eta1) + " (barra " +
@@ -29,7 +29,7 @@ void traceBasicLength(TraceRecorder rec, const AnchorageTraceInput& in) {
     const double fyd = in.fyk / 1.15;
     rec.step("Resistência de cálculo do aço", "fyd = fyk / 1.15", "{} / 1.15", {{in.fyk, "MPa"}}, fyd, "MPa", -1,
              "NBR-6118:2014, 12.3.1");
-    const double raw = in.phi * fyd / (4 * fbd);
+    const double raw = bondLength(in.phi, in.fyk, fbd);
     rec.step("Comprimento pela aderência", "lb,calc = φ · fyd / (4 · fbd)", "{} · {} / (4 · {})",
              {{in.phi, "cm"}, {fyd, "MPa"}, {fbd, "MPa"}}, raw, "cm", -1, kBasicClause);
     rec.step("Comprimento de ancoragem básico", "lb = max(lb,calc, 25 · φ)", "max({}, 25 · {})",
@@ -45,7 +45,7 @@ void traceMinimums(TraceRecorder rec, const AnchorageTraceInput& in) {
             rec.step("Comprimento mínimo", "lb,min = max(0.3 · lb, 10 · φ, 10 cm)", "max(0.3 · {}, 10 · {}, 10 cm)",
                      {{lb, "cm"}, {phi, "cm"}}, d.straightMinimum, "cm", -1, "NBR-6118:2014, 9.4.2.5");
             if (in.kind == AnchorageCase::Support) {
-                const double r = in.fyk < 550 ? (phi < 2 ? 2.5 * phi : 4 * phi) : 3 * phi;
+                const double r = hookBendRadius(phi, in.fyk);
                 rec.step("Raio de dobramento do gancho", "r = k · φ", "{} · {}", {{r / phi, ""}, {phi, "cm"}}, r, "cm", -1,
                          "NBR-6118:2014, 9.4.2.3");
                 rec.step("Mínimo com gancho no apoio", "lb,min = max(r + 5.5 · φ, 6 cm)", "max({} + 5.5 · {}, 6 cm)",
@@ -74,7 +74,7 @@ void traceAnchorage(TraceRecorder rec, const AnchorageTraceInput& in) {
     rec.stage(in.kind == AnchorageCase::Splice ? "Comprimento de emenda" : "Comprimento de ancoragem necessário");
     if (in.kind == AnchorageCase::Support)
         rec.step("Armadura que ancora Rsd = Vd", "As,cal = Vd / (0.1 · fyk / 1.15)", "{} / (0.1 · {} / 1.15)",
-                 {{in.vd, "kN"}, {in.fyk, "MPa"}}, in.vd / (in.fyk / 1.15 * 0.1), "cm²", -1,
+                 {{in.vd, "kN"}, {in.fyk, "MPa"}}, in.asCal, "cm²", -1,
                  "NBR-6118:2014, 18.3.2.4");
     traceMinimums(rec, in);
     const bool splice = in.kind == AnchorageCase::Splice;

@@ -13,7 +13,8 @@ struct AnchorageTraceInput {
     double fck, fyk, phi;  // MPa, MPa, cm
     BarSurface surface;
     bool goodBond, tension;
-    double vd = 0;  // kN, at an end support
+    double vd = 0;     // kN, at an end support
+    double asCal = 0;  // cm², the area that carries Rsd = Vd there
     const AnchorageDemand& demand;
     const AnchorageLengths& lengths;
 };
