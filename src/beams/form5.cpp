@@ -96,7 +96,7 @@ Outcome Form5::calculate(FormState& s, Prompter& prompter) const {
              "NBR-6118:2014, 11.7.1");
     rec.step("Resistência de cálculo do concreto", "fcd = fck / γc", "{} / {}", {{fck, "MPa"}, {gamac, ""}}, fcd, "MPa", -1,
              "NBR-6118:2014, 12.3.3");
-    traceShearStrut(rec, fyk, gamas, fyd, vd, bw, d, fck, fcd, tauwd);
+    traceShearStrut(rec, fyk, gamas, fyd, vd, bw, d, fck, fcd, tauwd, tauwu);
     checks.warnIf(tauwu < tauwd, msg::kCrushedStrut);
     if (checks.stopped()) return checks.outcome();
 
@@ -104,7 +104,7 @@ Outcome Form5::calculate(FormState& s, Prompter& prompter) const {
     rec.stage("Estribos");
     traceShearStirrups(rec, fck, gamac, bw, tauwd, fyd, asw);
     const double aswMin = 100 * minimumStirrupRatio(fck, fyk) * bw;
-    traceMinimumStirrups(rec, fck, fyk, bw);
+    traceMinimumStirrups(rec, fck, fyk, bw, aswMin);
     rec.step("Estribos adotados", "Asw = max(Asw, Asw,min)", "max({}, {})", {{asw, "cm²/m"}, {aswMin, "cm²/m"}},
              std::max(asw, aswMin), "cm²/m", 2);
     if (asw < aswMin) asw = aswMin;

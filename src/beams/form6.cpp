@@ -167,12 +167,11 @@ Outcome Form6::calculate(FormState& s, Prompter& prompter) const {
         rec.step("Armadura de flexão comprimida", "A's = ω' · b · d · σcd / fyd", "{} · {} · {} · {} / {}",
                  {{steel.omegaPrime, ""}, {b, "cm"}, {d, "cm"}, {sigmacd, "kN/cm²"}, {fyd, "kN/cm²"}}, asPrime, "cm²", 2);
     }
-    const double asMin = torsionBendingMinimumRatio(fck, fyd * 10) * b * h;
-    rec.step("Taxa mínima de flexão", "ρmin", "", {}, torsionBendingMinimumRatio(fck, fyd * 10), "", -1,
-             "NBR-6118:2014, 17.3.5.2.1");
+    const double rhoMin = torsionBendingMinimumRatio(fck, fyd * 10);
+    const double asMin = rhoMin * b * h;
+    rec.step("Taxa mínima de flexão", "ρmin", "", {}, rhoMin, "", -1, "NBR-6118:2014, 17.3.5.2.1");
     rec.step("Armadura de flexão adotada", "As = max(As, ρmin · b · h)", "max({}, {} · {} · {})",
-             {{as, "cm²"}, {torsionBendingMinimumRatio(fck, fyd * 10), ""}, {b, "cm"}, {h, "cm"}}, std::max(as, asMin),
-             "cm²", 2);
+             {{as, "cm²"}, {rhoMin, ""}, {b, "cm"}, {h, "cm"}}, std::max(as, asMin), "cm²", 2);
     if (as < asMin) as = asMin;
 
     // Shear and torsion in MPa.
@@ -202,8 +201,8 @@ Outcome Form6::calculate(FormState& s, Prompter& prompter) const {
 
     // Minimum stirrups on the total only; Asw,V and Asw,T are shown as computed.
     const double rhow = minimumStirrupRatio(fck, fyk);
-    double stirrups = 2 * aswT + aswV;
-    if (stirrups < 100 * rhow * b) stirrups = 100 * rhow * b;
+    const double aswMin = 100 * rhow * b;
+    double stirrups = std::max(2 * aswT + aswV, aswMin);
     const double aslMin = 0.5 * rhow * wall.ue * b;
     if (rec.on()) {
         rec.stage("Armaduras de torção e estribos");
@@ -212,8 +211,8 @@ Outcome Form6::calculate(FormState& s, Prompter& prompter) const {
                  {{td, "kN·cm"}, {wall.ae, "cm²"}, {fydStirrup, "MPa"}}, aswT, "cm²/m", 2, "NBR-6118:2014, 17.5.1.6");
         rec.step("Armadura longitudinal de torção", "Asl = ue · Td / (2 · Ae · fywd / 10)", "{} · {} / (2 · {} · {} / 10)",
                  {{wall.ue, "cm"}, {td, "kN·cm"}, {wall.ae, "cm²"}, {fydStirrup, "MPa"}},
-                 wall.ue * td / (2 * wall.ae * fydTorsion), "cm²", -1, "NBR-6118:2014, 17.5.1.6");
-        traceMinimumStirrups(rec, fck, fyk, b);
+                 asl, "cm²", -1, "NBR-6118:2014, 17.5.1.6");
+        traceMinimumStirrups(rec, fck, fyk, b, aswMin);
         rec.step("Estribos totais", "Asw = max(2 · Asw,T + Asw,V, Asw,min)", "max(2 · {} + {}, 100 · {} · {})",
                  {{aswT, "cm²/m"}, {aswV, "cm²/m"}, {rhow, ""}, {b, "cm"}}, stirrups, "cm²/m");
         rec.step("Mínimo longitudinal de torção", "Asl,min = 0.5 · ρw,min · ue · b", "0.5 · {} · {} · {}",

@@ -12,7 +12,7 @@ const char* kShearClause = "NBR-6118:2014, 17.4.2.2";
 }
 
 void traceShearStrut(TraceRecorder rec, double fyk, double gamas, double fywd, double vd, double bw, double d,
-                     double fck, double fcd, double tauwd) {
+                     double fck, double fcd, double tauwd, double tauwd2) {
     if (!rec.on()) return;
     rec.step("Resistência de cálculo dos estribos", "fywd = min(fyk / γs, 435 MPa)", "min({} / {}, 435 MPa)",
              {{fyk, "MPa"}, {gamas, ""}}, fywd, "MPa", -1, "NBR-6118:2014, 17.4.2.2");
@@ -21,10 +21,9 @@ void traceShearStrut(TraceRecorder rec, double fyk, double gamas, double fywd, d
     const double alphav = strutReduction(fck);
     rec.step("Redução da resistência da biela", "αv2 = 1 − fck / 250", "1 − {} / 250", {{fck, "MPa"}}, alphav, "",
              -1, kShearClause);
-    const double limit = 0.27 * alphav * fcd;
     rec.step("Limite da biela comprimida", "τwd2 = 0.27 · αv2 · fcd", "0.27 · {} · {}", {{alphav, ""}, {fcd, "MPa"}},
-             limit, "MPa", -1, kShearClause);
-    rec.check("Biela comprimida", "τwd ≤ τwd2", "{}", {{tauwd, "MPa"}}, tauwd, "MPa", !(limit < tauwd), kShearClause);
+             tauwd2, "MPa", -1, kShearClause);
+    rec.check("Biela comprimida", "τwd ≤ τwd2", "{}", {{tauwd, "MPa"}}, tauwd, "MPa", !(tauwd2 < tauwd), kShearClause);
 }
 
 void traceShearStirrups(TraceRecorder rec, double fck, double gamac, double bw, double tauwd, double fywd,
@@ -42,7 +41,7 @@ void traceShearStirrups(TraceRecorder rec, double fck, double gamac, double bw, 
              "cm²/m", -1, kShearClause);
 }
 
-void traceMinimumStirrups(TraceRecorder rec, double fck, double fyk, double bw) {
+void traceMinimumStirrups(TraceRecorder rec, double fck, double fyk, double bw, double aswMin) {
     if (!rec.on()) return;
     const double fctm = meanTensileStrength(fck);
     if (fck <= 50)
@@ -54,7 +53,7 @@ void traceMinimumStirrups(TraceRecorder rec, double fck, double fyk, double bw) 
     const double rho = minimumStirrupRatio(fck, fyk);
     rec.step("Taxa mínima de estribos", "ρw,min = 0.2 · fctm / min(fyk, 500 MPa)", "0.2 · {} / min({}, 500 MPa)",
              {{fctm, "MPa"}, {fyk, "MPa"}}, rho, "", -1, "NBR-6118:2014, 17.4.1.1.1");
-    rec.step("Estribos mínimos", "Asw,min = 100 · ρw,min · bw", "100 · {} · {}", {{rho, ""}, {bw, "cm"}}, 100 * rho * bw,
+    rec.step("Estribos mínimos", "Asw,min = 100 · ρw,min · bw", "100 · {} · {}", {{rho, ""}, {bw, "cm"}}, aswMin,
              "cm²/m", 2, "NBR-6118:2014, 17.4.1.1.1");
 }
 
