@@ -6,6 +6,9 @@
 #    reports/report_writer.h passes on with the paging.
 #  - The ground floor (app/, basis/, numeric/, draw/) includes nothing of the
 #    families nor of reports/, gui/, render/ or cli/ above it.
+#  - The calculations take their elementary functions from numeric/elementary.h,
+#    never from the C library, so that every machine and the browser agree to the
+#    last bit (the square root is exact everywhere and may come from either).
 cmake_minimum_required(VERSION 3.22)
 set(families anchorage beams columns continuous frames serviceability slabs stairs)
 set(front gui render cli web)
@@ -38,6 +41,28 @@ endforeach()
 foreach(floor ${ground})
   check_folder(${floor} "${families};${upper}")
 endforeach()
+
+set(libm_calls "")
+foreach(folder ${families} ${ground} reports)
+  file(GLOB_RECURSE sources "${SOURCE_DIR}/src/${folder}/*.h" "${SOURCE_DIR}/src/${folder}/*.cpp")
+  foreach(source ${sources})
+    if(source MATCHES "/numeric/(libm/|elementary\\.h)")
+      continue()
+    endif()
+    file(STRINGS "${source}" calls REGEX "(std::|[^:_.A-Za-z0-9])(a?sinh?|a?cosh?|a?tanh?|atan2|exp|expm1|exp2|pow|log|log10|log2|log1p|cbrt|hypot)[ \t]*\\(")
+    foreach(line ${calls})
+      string(REGEX REPLACE "//.*$" "" code "${line}")
+      if(code MATCHES "(std::|[^:_.A-Za-z0-9])(a?sinh?|a?cosh?|a?tanh?|atan2|exp|expm1|exp2|pow|log|log10|log2|log1p|cbrt|hypot)[ \t]*\\(")
+        file(RELATIVE_PATH where "${SOURCE_DIR}" "${source}")
+        string(STRIP "${line}" line)
+        string(APPEND libm_calls "${where}: ${line}\n")
+      endif()
+    endforeach()
+  endforeach()
+endforeach()
+if(libm_calls)
+  string(APPEND faults "Elementary functions of the C library (use numeric/elementary.h):\n${libm_calls}")
+endif()
 
 if(faults)
   message(FATAL_ERROR "Includes against the layers of the house:\n${faults}")
