@@ -1,0 +1,272 @@
+'use strict';
+// A case file played on the page as a user would: the start dialog's lists, the
+// module from the menu, a project file through "Abrir", texts typed key by key
+// into the boxes and table cells (so the key filters run), lists moved with the
+// arrows, options clicked, buttons pressed and questions answered from the case's
+// "answers" (No or Cancel once they run out, as morve-calc does). The page's
+// fields, tables and messages are then set against morve-calc's output.
+const path = require('path');
+const { load, calcCase, writeCase } = require('./harness');
+
+const START_LISTS = ['fck', 'stirrups', 'bars', 'ecs', 'es'];
+const q = (name) => `[data-name="${name}"]`;
+const qualify = (key, name) => (/^Form[^.]*\./.test(name) ? name : `${key}.${name}`);
+const sleep = (ms) => new Promise((r) => setTimeout(r, ms));
+
+const pageMark = (page) => page.evaluate(() => window.morveIdle);
+
+// Waits for the page to finish what the last action started, answering each
+// message box on the way; resolves when it has been idle with no box for a moment.
+async function settle(s, mark, limit = 15000) {
+  const t0 = Date.now();
+  let calm = 0;
+  while (Date.now() - t0 < limit) {
+    const now = await s.page.evaluate(() => {
+      const box = document.querySelector('dialog#message');
+      return { idle: window.morveIdle, busy: document.body.dataset.busy === '1', box: !!(box && box.open) };
+    });
+    if (now.box) { await answerBox(s); calm = 0; continue; }
+    const finished = now.idle > mark || Date.now() - t0 > 2000;
+    calm = finished && !now.busy ? calm + 1 : 0;
+    if (calm >= 4) return;
+    await sleep(15);
+  }
+  throw new Error(`a página ficou ocupada por mais de ${limit / 1000} s`);
+}
+
+async function answerBox(s) {
+  const box = await s.page.evaluate(() => {
+    const d = document.querySelector('dialog#message');
+    const text = (sel) => (d.querySelector(sel) || { textContent: '' }).textContent;
+    return { title: text('.message-title'), text: text('.message-text'),
+      buttons: [...d.querySelectorAll('[data-answer]')].filter((b) => b.checkVisibility()).map((b) => b.dataset.answer),
+      focused: document.activeElement && document.activeElement.dataset ? document.activeElement.dataset.answer || null : null };
+  });
+  const kind = box.buttons.includes('yes') ? 'yesno' : box.buttons.includes('cancel') ? 'okcancel' : 'warning';
+  let answer = 'ok';
+  if (kind === 'yesno') answer = s.answers.shift() === 'yes' ? 'yes' : 'no';
+  if (kind === 'okcancel') answer = ['ok', 'yes'].includes(s.answers.shift()) ? 'ok' : 'cancel';
+  s.messages.push({ kind, title: box.title, text: box.text, answer, focused: box.focused });
+  await s.page.click(`dialog#message [data-answer="${answer}"]`);
+  await s.page.waitForFunction((t) => {
+    const d = document.querySelector('dialog#message');
+    return !d.open || (d.querySelector('.message-text') || {}).textContent !== t;
+  }, { timeout: 1000 }, box.text).catch(() => {});
+}
+
+async function element(page, name) {
+  const el = await page.$(q(name));
+  if (!el) throw new Error(`a página não tem ${name}`);
+  return el;
+}
+
+// A list moved to the item with the arrow keys, as a keyboard user does.
+async function chooseItem(page, name, text) {
+  const el = await element(page, name);
+  const at = await el.evaluate((s, t) => ({ from: s.selectedIndex, to: [...s.options].findIndex((o) => o.text === t) }), text);
+  if (at.to < 0) throw new Error(`a lista ${name} não tem o item "${text}"`);
+  await el.focus();
+  for (let i = at.from; i !== at.to; i += Math.sign(at.to - at.from))
+    await page.keyboard.press(at.to > at.from ? 'ArrowDown' : 'ArrowUp');
+}
+
+// Selects what the box holds and types over it; the key filter has its say on every key.
+async function typeText(page, el, text) {
+  await el.click();
+  await el.evaluate((e) => e.select());
+  if (text === '') await page.keyboard.press('Backspace');
+  else await page.keyboard.type(text);
+  return el.evaluate((e) => e.value);
+}
+
+function textOf(v) { return v === null || v === undefined ? '' : typeof v === 'string' ? v : JSON.stringify(v); }
+
+async function applySet(s, set) {
+  for (const [short, value] of Object.entries(set)) {
+    const name = qualify(s.key, short);
+    const el = await element(s.page, name);
+    const kind = await el.evaluate((e) => (e.tagName === 'SELECT' ? 'list' : e.type));
+    if (kind === 'list') await chooseItem(s.page, name, textOf(value));
+    else if (kind === 'radio' || kind === 'checkbox') {
+      const on = value === true || value === 'true';
+      if ((await el.evaluate((e) => e.checked)) !== on) await el.click();
+    } else {
+      const shown = await typeText(s.page, el, textOf(value));
+      if (shown !== textOf(value)) s.why.push(`${name}: digitado "${textOf(value)}", a caixa ficou com "${shown}"`);
+    }
+  }
+}
+
+// A table filled row by row; rows the case leaves out are emptied, as the
+// case runner keeps only the rows it is given.
+async function applyGrids(s, grids) {
+  for (const [name, rows] of Object.entries(grids)) {
+    const cell = (r, c) => s.page.$(`${q(name)} input[data-row="${r}"][data-col="${c}"]`);
+    for (let r = 1; r <= rows.length; r++) {
+      for (let c = 0; c < rows[r - 1].length; c++) {
+        const want = textOf(rows[r - 1][c]);
+        let el = await cell(r, c);
+        if (!el && r > 1) await growGrid(s.page, name, r, c);
+        el = await cell(r, c);
+        if (!el) throw new Error(`a tabela ${name} não tem a célula (${r}, ${c})`);
+        if (await el.evaluate((e, w) => e.readOnly && e.value === w, want)) continue;
+        const shown = await typeText(s.page, el, want);
+        if (shown !== want) s.why.push(`${name}[${r}][${c}]: digitado "${want}", a célula ficou com "${shown}"`);
+      }
+    }
+    const extra = await s.page.$$eval(`${q(name)} input[data-row]`, (cells, n) =>
+      cells.filter((e) => Number(e.dataset.row) > n && !e.readOnly && e.value !== '').map((e) => [e.dataset.row, e.dataset.col]), rows.length);
+    for (const [r, c] of extra) await typeText(s.page, await cell(r, c), '');
+  }
+}
+
+// A new row, as on the desktop's tables: the arrow down from the last row.
+async function growGrid(page, name, row, col) {
+  const last = await page.$(`${q(name)} input[data-row="${row - 1}"][data-col="${col}"]`);
+  if (!last) return;
+  await last.click();
+  await page.keyboard.press('ArrowDown');
+}
+
+async function press(s, name) {
+  const el = await element(s.page, name);
+  const state = await el.evaluate((e) => ({ disabled: e.disabled, visible: e.checkVisibility() }));
+  if (state.disabled || !state.visible)
+    throw new Error(`o botão ${name} está ${state.disabled ? 'desabilitado' : 'escondido'} na página`);
+  const mark = await pageMark(s.page);
+  await el.click();
+  await settle(s, mark);
+}
+
+// A .mor file opened with "Abrir" and the browser's file picker.
+async function openProject(s, file) {
+  const mark = await pageMark(s.page);
+  const [chooser] = await Promise.all([s.page.waitForFileChooser({ timeout: 5000 }),
+    s.page.click(q(`${s.key}.Toolbar1.Abrir`))]);
+  await chooser.accept([file]);
+  await settle(s, mark);
+}
+
+// The start dialog, when the page shows it, with the case's choices.
+async function confirmStart(page, startup = {}) {
+  const shown = await page.$eval('#start', (d) => d.checkVisibility()).catch(() => false);
+  if (!shown) {
+    if (Object.keys(startup).length) throw new Error('a página não mostrou a caixa de início');
+    return;
+  }
+  for (const [key, text] of Object.entries(startup))
+    await chooseItem(page, `Form0.List${START_LISTS.indexOf(key) + 1}`, textOf(text));
+  await page.click(q('Form0.Command1'));
+  await page.waitForFunction(() => !document.querySelector('#start').checkVisibility(), { timeout: 5000 });
+}
+
+async function openModule(page, key) {
+  await page.click(`[data-module="${key}"]`);
+  await page.waitForFunction((k) => {
+    const screen = document.querySelector(`section.screen[data-screen="${k}"]`);
+    return screen && !screen.hidden && document.body.dataset.busy !== '1';
+  }, { timeout: 10000 }, key);
+}
+
+// What the page shows: every box, list and option by name, every table by cell.
+function readPage(page) {
+  return page.evaluate(() => {
+    const fields = {}, grids = {};
+    for (const e of document.querySelectorAll('section.screen [data-name]')) {
+      const n = e.dataset.name;
+      if (e.tagName === 'TABLE') {
+        const rows = (grids[n] = []);
+        for (const c of e.querySelectorAll('input[data-row][data-col]')) {
+          const r = Number(c.dataset.row);
+          while (rows.length <= r) rows.push([]);
+          rows[r][Number(c.dataset.col)] = c.value;
+        }
+      } else if (e.tagName === 'SELECT') fields[n] = e.selectedIndex < 0 ? '' : e.options[e.selectedIndex].text;
+      else if (e.tagName === 'INPUT' && (e.type === 'radio' || e.type === 'checkbox')) fields[n] = e.checked ? 'True' : '';
+      else if (e.tagName === 'INPUT' && !e.dataset.row) fields[n] = e.value;
+    }
+    const values = [...document.querySelectorAll('input, select')].map((e) => e.value).join('\n');
+    return { fields, grids, text: `${document.body.innerText}\n${values}` };
+  });
+}
+
+// Words a broken number or a missing value leaves on a page.
+function badWords(text) {
+  return [...new Set((text.match(/\b(nan|-?inf(inity)?|undefined|null)\b/gi) || []).map((w) => w.toLowerCase()))];
+}
+
+// Differences between the page and morve-calc: fields, table cells and, unless
+// messages is null, the message boxes.
+function compare(shown, native, messages) {
+  const why = [];
+  for (const [n, want] of Object.entries(native.fields)) {
+    if (!(n in shown.fields)) { if (want !== '') why.push(`${n}: a página não mostra "${want}"`); continue; }
+    if (shown.fields[n] !== want) why.push(`${n}: página "${shown.fields[n]}", morve-calc "${want}"`);
+  }
+  for (const [n, rows] of Object.entries(native.grids)) {
+    const got = shown.grids[n] || [];
+    if (!shown.grids[n] && rows.length > 1) { why.push(`${n}: a página não mostra a tabela`); continue; }
+    for (let r = 1; r < Math.max(rows.length, got.length); r++)
+      for (let c = 0; c < Math.max((rows[r] || []).length, (got[r] || []).length); c++) {
+        const want = (rows[r] || [])[c] || '', have = (got[r] || [])[c] || '';
+        if (want !== have) why.push(`${n}[${r}][${c}]: página "${have}", morve-calc "${want}"`);
+      }
+  }
+  const expected = messages ? native.steps.flatMap((st) => st.messages) : [];
+  messages = messages || [];
+  const said = (m) => `${m.kind} "${m.title}": ${m.text} -> ${m.answer}`;
+  for (let i = 0; i < Math.max(expected.length, messages.length); i++) {
+    const a = messages[i], b = expected[i];
+    if (!a || !b || a.kind !== b.kind || a.title !== b.title || a.text !== b.text || a.answer !== b.answer)
+      why.push(`mensagem ${i + 1}: página ${a ? said(a) : '(nenhuma)'}; morve-calc ${b ? said(b) : '(nenhuma)'}`);
+  }
+  const bad = badWords(shown.text);
+  if (bad.length) why.push(`a página mostra ${bad.join(', ')}`);
+  return why;
+}
+
+// Plays a case on a freshly loaded page; the state it leaves is for the caller.
+async function playCase(page, url, c, dir, nativePresses) {
+  await load(page, url);
+  await confirmStart(page, c.startup);
+  await openModule(page, c.module);
+  const s = { page, key: c.module, answers: (c.answers || []).map(textOf), messages: [], why: [] };
+  if (c.open) await openProject(s, path.resolve(dir, c.open));
+  if (c.set) await applySet(s, c.set);
+  if (c.grids) await applyGrids(s, c.grids);
+  for (const p of c.press || nativePresses) {
+    if (typeof p === 'object') {
+      if (p.set) await applySet(s, p.set);
+      if (p.grids) await applyGrids(s, p.grids);
+    } else await press(s, qualify(c.module, p));
+  }
+  return s;
+}
+
+// A case played on the page and checked against morve-calc on the same file;
+// returns the list of differences (empty when the page agrees).
+async function checkCase(page, url, c, file) {
+  const native = calcCase(file);
+  const s = await playCase(page, url, c, path.dirname(file), native.steps.map((st) => st.press));
+  const why = [...s.why, ...compare(await readPage(page), native, s.messages), ...page.errors];
+  page.errors.length = 0;
+  return { why, s, native };
+}
+
+// Walks variant cases: a case file's own keys with each of its "cases" over them.
+function variants(fileJson) {
+  return (fileJson.cases || []).map((v) => {
+    const merged = { ...fileJson };
+    delete merged.cases;
+    for (const [k, value] of Object.entries(v)) {
+      const mergeable = ['set', 'grids'].includes(k) && merged[k] && typeof merged[k] === 'object';
+      merged[k] = mergeable ? { ...merged[k], ...value } : value;
+    }
+    delete merged.expect;
+    delete merged.why;
+    return merged;
+  });
+}
+
+module.exports = { confirmStart, openModule, playCase, checkCase, readPage, compare, badWords,
+  pageMark, settle, press, variants, writeCase, q, qualify };

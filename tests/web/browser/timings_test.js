@@ -1,0 +1,68 @@
+'use strict';
+// How fast the page is, and what it looks like at 1366x768: the first load to the
+// menu, a later load from the browser's cache, each press of every module's first
+// example as the page times it (window.morveTimings); then screenshots for a
+// person to look at in $(BUILD)/web-shots. Only a generous guard fails the test:
+// the aims (menu in 2 s, 0.5 s cached, CALCULAR in 50 ms) are printed beside.
+const fs = require('fs');
+const path = require('path');
+const h = require('./harness');
+const d = require('./case_driver');
+
+const GUARD = { load: 10000, press: 2000 };
+const AIM = { first: 2000, cached: 500, press: 50 };
+
+const row = (cells, widths) => cells.map((c, i) => String(c).padEnd(widths[i])).join(' ');
+
+async function shoot(page, name) {
+  const file = path.join(h.env.shots, `${name}.png`);
+  await page.screenshot({ path: file });
+  console.log(`imagem: ${file}`);
+}
+
+h.main(async (browser, url) => {
+  fs.mkdirSync(h.env.shots, { recursive: true });
+  const page = await h.newPage(browser);
+  const results = [];
+  const guard = (name, ms, limit) => results.push({ name, ok: ms <= limit, why: [`${ms} ms, acima de ${limit} ms`] });
+
+  const first = await h.load(page, url);
+  await shoot(page, 'menu');
+  const cached = await h.load(page, url);
+  console.log(`\ncarga        ms     meta`);
+  console.log(`primeira     ${String(first).padEnd(6)} ${AIM.first}`);
+  console.log(`em cache     ${String(cached).padEnd(6)} ${AIM.cached}\n`);
+  guard('primeira carga', first, GUARD.load);
+  guard('carga em cache', cached, GUARD.load);
+
+  const widths = [8, 34, 22, 8, 8];
+  console.log(row(['módulo', 'exemplo', 'botão', 'ms', 'meta'], widths));
+  const seen = new Set();
+  for (const ex of h.examples()) {
+    if (seen.has(ex.json.module)) continue;
+    seen.add(ex.json.module);
+    try {
+      await d.checkCase(page, url, ex.json, ex.file);
+      const times = await page.evaluate(() => window.morveTimings || []);
+      if (!times.length) results.push({ name: ex.name, ok: false, why: ['window.morveTimings vazio'] });
+      for (const t of times) {
+        console.log(row([ex.json.module, ex.name, t.command, Math.round(t.ms), t.ms <= AIM.press ? 'ok' : 'acima'], widths));
+        guard(`${ex.name} ${t.command}`, Math.round(t.ms), GUARD.press);
+      }
+      if (ex.json.module === 'Form7') await shoot(page, 'form7');
+      if (ex.json.module === 'Form34') await shoot(page, 'form34');
+      if (ex.json.module === 'Form7') {
+        await page.click(d.q('Form7.Toolbar1.Imprimir'));
+        const title = await page.waitForSelector('dialog#report-title[open], #report .report-page', { timeout: 5000 });
+        if (await title.evaluate((e) => e.tagName === 'DIALOG'))
+          await page.click('dialog#report-title [data-answer="ok"], dialog#report-title button');
+        await page.waitForSelector('#report .report-page', { timeout: 5000 });
+        await shoot(page, 'report');
+      }
+    } catch (e) {
+      results.push({ name: ex.name, ok: false, why: [e.message] });
+    }
+  }
+  console.log();
+  return h.tally(results);
+});
