@@ -1,6 +1,6 @@
 #pragma once
-// The texts of the program's own windows, around the modules: the menu window's
-// picture, the About box, the start dialog's buttons, the list of help pages,
+// The texts of the program's own windows, around the modules: the splash, the
+// start dialog's buttons, the list of help pages,
 // the toolbar of module windows, the question of "Sair", the notes of a paste
 // into a table and the "Passo a passo" button. The desktop and the web page
 // show these same words.
@@ -10,10 +10,6 @@
 namespace morve {
 
 inline constexpr const char* kWindowTitle = " MORVE";
-inline constexpr const char* kAboutTitle = "MORVE - 2014";
-inline constexpr const char* kPurpose =
-    "Ferramenta destinada à elaboração de projeto de estruturas de concreto armado, "
-    "com cálculo passo a passo. Ideal para o ensino e para o projetista iniciante.";
 inline constexpr const char* kLoading = "Carregando...Aguarde!";
 
 // The start dialog's buttons.
@@ -53,9 +49,8 @@ inline const char* stepsCaption(bool pTaken) { return pTaken ? "Passo &a passo" 
 inline constexpr const char* kStepsToolTip = "Mostra cada passo do último cálculo: fórmula, valores e item da norma";
 
 // A block pasted into a table that does not hold it all.
-inline std::string pasteTooManyRows(int limit) {
-    return "A tabela tem no máximo " + std::to_string(limit) +
-           " linhas: as linhas coladas além dessas ficaram de fora.";
+inline std::string pasteTooManyRows(const std::string& limit) {
+    return "A tabela tem no máximo " + limit + " linhas: as linhas coladas além dessas ficaram de fora.";
 }
 inline constexpr const char* kPasteTooWide = "Os valores colados além da última coluna da tabela ficaram de fora.";
 

@@ -170,7 +170,7 @@ void Spreadsheet::paste(const QString& clipboard) {
     }
     if (refused) beep();
     if (wanted > limit)
-        guiPrompter().warn(pasteTooManyRows(limit));
+        guiPrompter().warn(pasteTooManyRows(std::to_string(limit)));
     else if (column + width > table_->columnCount())
         guiPrompter().warn(kPasteTooWide);
 }

@@ -147,15 +147,18 @@ void TipWindow::drawTip() {
 AboutWindow::AboutWindow() {
     setWindowFlag(Qt::Window);
     setObjectName(QStringLiteral("FormAbout"));
-    setWindowTitle(QString::fromUtf8(kWindowTitle));
+    setWindowTitle(QStringLiteral(" MORVE"));
     setAttribute(Qt::WA_DeleteOnClose);
-    auto* title = new QLabel(QString::fromUtf8(kAboutTitle), this);
+    auto* title = new QLabel(QStringLiteral("MORVE - 2014"), this);
     QFont f = title->font();
     f.setBold(true);
     f.setPointSizeF(f.pointSizeF() * 1.6);
     title->setFont(f);
     auto* version = new QLabel(QString::fromUtf8(kVersionCaption), this);
-    auto* purpose = new QLabel(QString::fromUtf8(kPurpose), this);
+    auto* purpose = new QLabel(QStringLiteral("Ferramenta destinada à elaboração de projeto de estruturas de "
+                                              "concreto armado, com cálculo passo a passo. Ideal para o ensino "
+                                              "e para o projetista iniciante."),
+                               this);
     purpose->setWordWrap(true);
     purpose->setMinimumWidth(360);
     // The terms the program is distributed on, below what it is for.

@@ -9,7 +9,11 @@ import { shellTexts } from './shell_texts.js';
 
 export const TOOLBAR_KEYS = ['Novo', 'Início', 'Abrir', 'Salvar', 'Imprimir', 'Ajuda', 'Sair'];
 
-function toolbar(screen, onToolbar, withSteps) {
+function toolbar(decl, onToolbar, withSteps) {
+  const screen = decl.name;
+  // Alt+P for "Passo a passo", unless a button of the window already answers to P.
+  const pTaken = (decl.controls || []).some((c) => c.kind === 'Command' && /&p/i.test(c.caption || ''));
+  const stepsCaption = (pTaken ? shellTexts().stepsCaptionP : shellTexts().stepsCaption) || '';
   const bar = document.createElement('div');
   bar.className = 'toolbar';
   bar.setAttribute('role', 'toolbar');
@@ -21,7 +25,7 @@ function toolbar(screen, onToolbar, withSteps) {
     button.type = 'button';
     button.dataset.name = `${screen}.Toolbar1.${key}`;
     button.dataset.key = key;
-    const caption = key === 'PassoAPasso' ? shellTexts().stepsCaption || '' : key;
+    const caption = key === 'PassoAPasso' ? stepsCaption : key;
     setCaption(button, caption);
     button.title = key === 'PassoAPasso' ? shellTexts().stepsToolTip || '' : tips[key] || '';
     button.addEventListener('click', () => onToolbar(key));
@@ -97,7 +101,7 @@ export function buildScreen(decl, { onCommand, onToolbar, onClose, withSteps }) 
   section.append(title);
   const screen = { name: decl.name, decl, section, controls: new Map(), frames: new Map(), toolbar: new Map() };
   if (decl.toolbar) {
-    const { bar, buttons } = toolbar(decl.name, onToolbar, withSteps);
+    const { bar, buttons } = toolbar(decl, onToolbar, withSteps);
     section.append(bar);
     screen.toolbar = buttons;
   }
