@@ -11,6 +11,7 @@
 
 #include "app/about.h"
 #include "app/module.h"
+#include "app/shell_texts.h"
 #include "gui/keyboard.h"
 #include "gui/recent_files.h"
 
@@ -73,7 +74,7 @@ protected:
 
 MainWindow::MainWindow() {
     setObjectName(QStringLiteral("Form0"));
-    setWindowTitle(QStringLiteral(" MORVE"));
+    setWindowTitle(QString::fromUtf8(kWindowTitle));
     setCentralWidget(new MenuPicture(this));
     resize(800, 560);
 
