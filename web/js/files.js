@@ -9,33 +9,28 @@ import { download, element, ensureStylesheets, openDialog } from './panels.js';
 // and the core refuses it as it refuses a file of another module.
 const LARGEST_FILE = 16 << 20;
 
-// The box of the message dialog, the shell's own when it has made one: the title,
-// the text, and OK.
-export function showMessage(title, text) {
-  ensureStylesheets();
-  let dialog = document.querySelector('dialog#message');
-  if (!dialog) {
-    dialog = element('dialog', { id: 'message', className: 'small-dialog' },
-      element('div', { className: 'message-title' }),
-      element('div', { className: 'message-text' }),
-      element('div', { className: 'dialog-buttons' },
-        element('button', { type: 'button', 'data-answer': 'ok' }, 'OK')));
-    document.body.appendChild(dialog);
+// A warning in the program's message box: the shell's own when the page has it,
+// else a box of the same make (dialog#message with its title, text and OK).
+export async function showMessage(title, text) {
+  let shell = null;
+  try {
+    shell = await import('./dialogs.js');
+  } catch {
+    shell = null;
   }
-  dialog.querySelector('.message-title').textContent = title;
-  dialog.querySelector('.message-text').textContent = text;
-  for (const b of dialog.querySelectorAll('[data-answer]')) b.hidden = b.dataset.answer !== 'ok';
-  const ok = dialog.querySelector('[data-answer="ok"]');
+  if (shell && typeof shell.showMessage === 'function') return shell.showMessage({ kind: 'warning', title, text });
+  ensureStylesheets();
+  document.getElementById('message')?.remove();
+  const ok = element('button', { type: 'button', 'data-answer': 'ok' }, 'OK');
+  const dialog = element('dialog', { id: 'message', className: 'small-dialog' },
+    element('div', { className: 'message-title', text: title }),
+    element('div', { className: 'dialog-body message-text', text }),
+    element('div', { className: 'message-buttons' }, ok));
+  ok.addEventListener('click', () => dialog.close());
+  document.body.appendChild(dialog);
   return new Promise((resolve) => {
-    const press = () => dialog.open && dialog.close();
-    const settle = () => {
-      dialog.removeEventListener('close', settle);
-      ok.removeEventListener('click', press);
-      resolve();
-    };
-    dialog.addEventListener('close', settle);
-    ok.addEventListener('click', press);
-    if (!dialog.open) dialog.showModal();
+    dialog.addEventListener('close', () => { dialog.remove(); resolve('ok'); });
+    dialog.showModal();
     ok.focus();
   });
 }

@@ -77,9 +77,9 @@ export function openDialog({ id, title, content = [], buttons, focus }) {
   document.getElementById(id)?.remove();
   return new Promise((resolve) => {
     const dialog = element('dialog', { id, className: 'small-dialog' });
-    if (title) dialog.append(element('div', { className: 'dialog-title', text: title }));
-    dialog.append(...content);
-    const row = element('div', { className: 'dialog-buttons' });
+    if (title) dialog.append(element('div', { className: 'message-title', text: title }));
+    dialog.append(element('div', { className: 'dialog-body' }, ...content));
+    const row = element('div', { className: 'message-buttons' });
     let result = null;
     for (const [caption, value, attributes] of buttons)
       row.append(button(caption, () => { result = typeof value === 'function' ? value() : value; dialog.close(); }, attributes));
