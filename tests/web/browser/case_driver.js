@@ -16,17 +16,19 @@ const sleep = (ms) => new Promise((r) => setTimeout(r, ms));
 const pageMark = (page) => page.evaluate(() => window.morveIdle);
 
 // Waits for the page to finish what the last action started, answering each
-// message box on the way; resolves when it has been idle with no box for a moment.
+// message box on the way; resolves when it has been idle with no box for a
+// moment. An action that sent nothing to the core is done after a short while.
 async function settle(s, mark, limit = 15000) {
   const t0 = Date.now();
-  let calm = 0;
+  let calm = 0, started = false;
   while (Date.now() - t0 < limit) {
     const now = await s.page.evaluate(() => {
       const box = document.querySelector('dialog#message');
       return { idle: window.morveIdle, busy: document.body.dataset.busy === '1', box: !!(box && box.open) };
     });
     if (now.box) { await answerBox(s); calm = 0; continue; }
-    const finished = now.idle > mark || Date.now() - t0 > 2000;
+    started = started || now.busy || now.idle > mark;
+    const finished = now.idle > mark || (!started && Date.now() - t0 > 300);
     calm = finished && !now.busy ? calm + 1 : 0;
     if (calm >= 4) return;
     await sleep(15);
@@ -60,14 +62,18 @@ async function element(page, name) {
   return el;
 }
 
-// A list moved to the item with the arrow keys, as a keyboard user does.
-async function chooseItem(page, name, text) {
-  const el = await element(page, name);
-  const at = await el.evaluate((s, t) => ({ from: s.selectedIndex, to: [...s.options].findIndex((o) => o.text === t) }), text);
+// A list moved to the item with the arrow keys, as a keyboard user does; each
+// move is a pick the page may send to the module, waited for as a user would.
+async function chooseItem(s, name, text) {
+  const el = await element(s.page, name);
+  const at = await el.evaluate((e, t) => ({ from: e.selectedIndex, to: [...e.options].findIndex((o) => o.text === t) }), text);
   if (at.to < 0) throw new Error(`a lista ${name} não tem o item "${text}"`);
   await el.focus();
-  for (let i = at.from; i !== at.to; i += Math.sign(at.to - at.from))
-    await page.keyboard.press(at.to > at.from ? 'ArrowDown' : 'ArrowUp');
+  for (let i = at.from; i !== at.to; i += Math.sign(at.to - at.from)) {
+    const mark = await pageMark(s.page);
+    await s.page.keyboard.press(at.to > at.from ? 'ArrowDown' : 'ArrowUp');
+    await settle(s, mark);
+  }
 }
 
 // Selects what the box holds and types over it; the key filter has its say on every key.
@@ -86,10 +92,12 @@ async function applySet(s, set) {
     const name = qualify(s.key, short);
     const el = await element(s.page, name);
     const kind = await el.evaluate((e) => (e.tagName === 'SELECT' ? 'list' : e.type));
-    if (kind === 'list') await chooseItem(s.page, name, textOf(value));
+    if (kind === 'list') await chooseItem(s, name, textOf(value));
     else if (kind === 'radio' || kind === 'checkbox') {
       const on = value === true || value === 'true';
+      const mark = await pageMark(s.page);
       if ((await el.evaluate((e) => e.checked)) !== on) await el.click();
+      await settle(s, mark);
     } else {
       const shown = await typeText(s.page, el, textOf(value));
       if (shown !== textOf(value)) s.why.push(`${name}: digitado "${textOf(value)}", a caixa ficou com "${shown}"`);
@@ -97,19 +105,19 @@ async function applySet(s, set) {
   }
 }
 
-// A table filled row by row; rows the case leaves out are emptied, as the
-// case runner keeps only the rows it is given.
+// A table filled cell by cell; rows the table does not have yet come as a
+// block pasted on the last row it has, as from a spreadsheet. Rows the case
+// leaves out are emptied, as the case runner keeps only the rows it is given.
 async function applyGrids(s, grids) {
   for (const [name, rows] of Object.entries(grids)) {
     const cell = (r, c) => s.page.$(`${q(name)} input[data-row="${r}"][data-col="${c}"]`);
     for (let r = 1; r <= rows.length; r++) {
+      if (!(await cell(r, 0)) && r > 1) await pasteRows(await cell(r - 1, 0), rows.slice(r - 2));
       for (let c = 0; c < rows[r - 1].length; c++) {
         const want = textOf(rows[r - 1][c]);
-        let el = await cell(r, c);
-        if (!el && r > 1) await growGrid(s.page, name, r, c);
-        el = await cell(r, c);
+        const el = await cell(r, c);
         if (!el) throw new Error(`a tabela ${name} não tem a célula (${r}, ${c})`);
-        if (await el.evaluate((e, w) => e.readOnly && e.value === w, want)) continue;
+        if (await el.evaluate((e, w) => e.value === w && (e.readOnly || e.dataset.pasted), want)) continue;
         const shown = await typeText(s.page, el, want);
         if (shown !== want) s.why.push(`${name}[${r}][${c}]: digitado "${want}", a célula ficou com "${shown}"`);
       }
@@ -120,12 +128,15 @@ async function applyGrids(s, grids) {
   }
 }
 
-// A new row, as on the desktop's tables: the arrow down from the last row.
-async function growGrid(page, name, row, col) {
-  const last = await page.$(`${q(name)} input[data-row="${row - 1}"][data-col="${col}"]`);
-  if (!last) return;
-  await last.click();
-  await page.keyboard.press('ArrowDown');
+async function pasteRows(at, rows) {
+  if (!at) return;
+  await at.evaluate((e, text) => {
+    const data = new DataTransfer();
+    data.setData('text/plain', text);
+    e.focus();
+    e.dispatchEvent(new ClipboardEvent('paste', { clipboardData: data, bubbles: true, cancelable: true }));
+    for (const c of e.closest('table').querySelectorAll('input[data-row]')) if (Number(c.dataset.row) >= Number(e.dataset.row)) c.dataset.pasted = '1';
+  }, rows.map((r) => r.map(textOf).join('\t')).join('\n'));
 }
 
 async function press(s, name) {
@@ -147,6 +158,19 @@ async function openProject(s, file) {
   await settle(s, mark);
 }
 
+// A small dialog of the page (the report's title, a file's name) answered with OK.
+async function confirmDialog(page, id) {
+  await page.waitForSelector(`dialog#${id}[open]`, { timeout: 5000 });
+  await page.click(`dialog#${id} [data-answer="ok"]`);
+}
+
+// "Imprimir" of the toolbar: the title asked and left empty, the report's pages shown.
+async function openReport(page, key) {
+  await page.click(q(`${key}.Toolbar1.Imprimir`));
+  await confirmDialog(page, 'report-title');
+  await page.waitForSelector('#report .report-page', { timeout: 5000 });
+}
+
 // The start dialog, when the page shows it, with the case's choices.
 async function confirmStart(page, startup = {}) {
   const shown = await page.$eval('#start', (d) => d.checkVisibility()).catch(() => false);
@@ -154,14 +178,31 @@ async function confirmStart(page, startup = {}) {
     if (Object.keys(startup).length) throw new Error('a página não mostrou a caixa de início');
     return;
   }
+  const s = { page, answers: [], messages: [], why: [] };
   for (const [key, text] of Object.entries(startup))
-    await chooseItem(page, `Form0.List${START_LISTS.indexOf(key) + 1}`, textOf(text));
+    await chooseItem(s, `Form0.List${START_LISTS.indexOf(key) + 1}`, textOf(text));
   await page.click(q('Form0.Command1'));
   await page.waitForFunction(() => !document.querySelector('#start').checkVisibility(), { timeout: 5000 });
 }
 
+// The module's leaf in the menu, reached as with a mouse: each menu above it,
+// outermost first, pointed at, and clicked when pointing does not open it.
 async function openModule(page, key) {
-  await page.click(`[data-module="${key}"]`);
+  const leaf = await page.$(`[data-module="${key}"]`);
+  if (!leaf) throw new Error(`o menu não tem ${key}`);
+  const menus = await leaf.evaluateHandle((e) => {
+    const chain = [];
+    for (let m = e.parentElement.closest('[data-menu]'); m; m = m.parentElement.closest('[data-menu]')) chain.unshift(m);
+    return chain;
+  });
+  for (let i = 0, n = await menus.evaluate((a) => a.length); i < n; i++) {
+    const menu = await menus.evaluateHandle((a, at) => a[at], i);
+    const title = await menu.$(':scope > button');
+    const opened = () => menu.evaluate((m) => [...m.children].some((c) => c.tagName !== 'BUTTON' && c.checkVisibility()));
+    await title.hover();
+    if (!(await opened())) await title.click();
+  }
+  await leaf.click();
   await page.waitForFunction((k) => {
     const screen = document.querySelector(`section.screen[data-screen="${k}"]`);
     return screen && !screen.hidden && document.body.dataset.busy !== '1';
@@ -268,5 +309,5 @@ function variants(fileJson) {
   });
 }
 
-module.exports = { confirmStart, openModule, playCase, checkCase, readPage, compare, badWords,
+module.exports = { confirmDialog, openReport, confirmStart, openModule, playCase, checkCase, readPage, compare, badWords,
   pageMark, settle, press, variants, writeCase, q, qualify };

@@ -20,6 +20,7 @@ const squeeze = (t) => t.replace(/\s+/g, ' ').trim();
 async function download(page, dir, key) {
   const before = new Set(fs.readdirSync(dir));
   await page.click(d.q(`${key}.Toolbar1.Salvar`));
+  await d.confirmDialog(page, 'file-name');
   for (let t = 0; t < 100; t++) {
     const got = fs.readdirSync(dir).filter((f) => !before.has(f) && !f.endsWith('.crdownload'));
     if (got.length) return path.join(dir, got[0]);
@@ -48,12 +49,7 @@ function textPages(text) {
 async function checkReport(page, ex, dir) {
   const why = [];
   const key = ex.json.module;
-  await page.click(d.q(`${key}.Toolbar1.Imprimir`));
-  const title = await page.waitForSelector('dialog#report-title[open], #report .report-page', { timeout: 5000 });
-  if (await title.evaluate((e) => e.tagName === 'DIALOG'))
-    await page.click('dialog#report-title [data-answer="ok"], dialog#report-title button');
-  await page.waitForSelector('#report .report-page', { timeout: 5000 });
-  await sleep(200);
+  await d.openReport(page, key);
   const shown = await page.$$eval('#report .report-page', (pages) => pages.map((p) =>
     [...p.querySelectorAll('.report-line, .report-picture')].map((e) => (e.classList.contains('report-picture')
       ? (e.querySelector('svg') ? '[figura]' : '[figura sem svg]') : e.textContent.trimEnd())).filter((l) => l)));
@@ -66,7 +62,8 @@ async function checkReport(page, ex, dir) {
     lines.forEach((l, i) => { if (got[i] !== l) why.push(`página ${p + 1}, linha ${i + 1}: "${got[i]}", morve-calc "${l}"`); });
     if (got.length > lines.length) why.push(`página ${p + 1}: linhas a mais: "${got[lines.length]}"`);
   });
-  if (!(await page.evaluate(() => window.morvePrinted))) why.push('"Imprimir" não chamou a impressão do navegador');
+  await page.click(d.q('Report.Imprimir'));
+  if (!(await page.evaluate(() => window.morvePrinted))) why.push('"Imprimir" do relatório não chamou a impressão do navegador');
   const pdf = path.join(dir, `${ex.name}.pdf`);
   await page.pdf({ path: pdf, preferCSSPageSize: true, printBackground: true });
   const sheets = execFileSync('pdftotext', ['-layout', pdf, '-'], { encoding: 'utf8' }).split('\f').filter((s) => s.trim());

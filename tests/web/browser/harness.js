@@ -81,7 +81,7 @@ async function newPage(browser) {
   page.on('console', (m) => {
     if (m.type() === 'error' && !own(m.location().url || '')) page.errors.push(`console: ${m.text()}`);
   });
-  page.on('pageerror', (e) => page.errors.push(`exceção: ${e.message}`));
+  page.on('pageerror', (e) => page.errors.push(`exceção: ${(e.stack || e.message).split('\n').slice(0, 2).join(' ')}`));
   page.on('requestfailed', (r) => page.errors.push(`falha ao carregar ${r.url()}`));
   page.on('response', (r) => { if (r.status() >= 400 && !own(r.url())) page.errors.push(`${r.status()} ${r.url()}`); });
   // Counts the page's returns to idle (data-busy "1" -> "0"), so that a step can

@@ -52,11 +52,7 @@ h.main(async (browser, url) => {
       if (ex.json.module === 'Form7') await shoot(page, 'form7');
       if (ex.json.module === 'Form34') await shoot(page, 'form34');
       if (ex.json.module === 'Form7') {
-        await page.click(d.q('Form7.Toolbar1.Imprimir'));
-        const title = await page.waitForSelector('dialog#report-title[open], #report .report-page', { timeout: 5000 });
-        if (await title.evaluate((e) => e.tagName === 'DIALOG'))
-          await page.click('dialog#report-title [data-answer="ok"], dialog#report-title button');
-        await page.waitForSelector('#report .report-page', { timeout: 5000 });
+        await d.openReport(page, 'Form7');
         await shoot(page, 'report');
       }
     } catch (e) {
