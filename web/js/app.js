@@ -79,7 +79,7 @@ async function boot() {
   }
   catalogue = answer;
   startup = [...((catalogue.startup || {}).selected || [])];
-  menuArea.append(buildMenu(catalogue, { onModule: openModule, onHelp }),
+  menuArea.append(buildMenu(catalogue, { onModule: openModule, onHelp, active: () => !menuArea.hidden }),
     buildMenuPicture({ version: shellTexts().version, purpose: shellTexts().purpose }));
   answerKeys();
   showStartDialog(catalogue.startup || {}, (chosen) => { startup = chosen; });

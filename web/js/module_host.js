@@ -139,8 +139,10 @@ export class ModuleHost {
         if (target === 'FormAjuda') this.showHelp();
         else this.raise(target);
         break;
+      case 'hide':
       case 'unload':
-        if (target === this.info.key) this.shell.toMenu();
+        if (target === 'FormAjuda' && pictures.help && pictures.help.hideHelp) pictures.help.hideHelp();
+        else if (kind === 'unload' && target === this.info.key) this.shell.toMenu();
         break;
       case 'report':
         if (pictures.report) pictures.report.showReport({ call: this.call, session: this.session, key: target,

@@ -17,6 +17,11 @@ function showList(select, items, selected) {
   select.selectedIndex = at;
 }
 
+// A result longer than its box widens the box, so that no figure is cut.
+function fitResult(input) {
+  input.style.minWidth = `calc(${input.value.length}ch + 14px)`;
+}
+
 function isOn(text) {
   return typeof text === 'string' && text.toLowerCase() === 'true';
 }
@@ -28,6 +33,7 @@ function showControl(entry, qualified, state) {
     case 'TextBox':
     case 'ResultBox':
       if (qualified in fields && element.value !== fields[qualified]) element.value = fields[qualified];
+      if (decl.kind === 'ResultBox') fitResult(element);
       break;
     case 'List':
       showList(element, (state.items || {})[qualified] || decl.items || [], fields[qualified] ?? '');
