@@ -32,6 +32,8 @@ async function closeModule() {
   if (!host) return;
   const closing = host;
   host = null;
+  // The module's help, report and steps go with it: each panel closes on Esc.
+  if (document.querySelector('.panel')) document.dispatchEvent(new KeyboardEvent('keydown', { key: 'Escape' }));
   await closing.close();
 }
 
