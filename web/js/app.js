@@ -32,6 +32,8 @@ async function closeModule() {
   if (!host) return;
   const closing = host;
   host = null;
+  // The module's help, report and steps go with it: each panel closes on Esc.
+  if (document.querySelector('.panel')) document.dispatchEvent(new KeyboardEvent('keydown', { key: 'Escape' }));
   await closing.close();
 }
 
@@ -56,6 +58,7 @@ async function openModule(key) {
   menuArea.hidden = true;
   moduleArea.hidden = false;
   host = new ModuleHost({ call, opened, key, container: moduleArea, shell: { toMenu, toStart } });
+  host.focusFirst();
 }
 
 function answerKeys() {
@@ -71,6 +74,7 @@ function answerKeys() {
 }
 
 async function boot() {
+  window.morveTimings = window.morveTimings || [];
   startCore();
   const [answer] = await Promise.all([call({ op: 'catalogue' }), loadShellTexts(call), loadPictureModules()]);
   if (answer.error) {
@@ -79,7 +83,7 @@ async function boot() {
   }
   catalogue = answer;
   startup = [...((catalogue.startup || {}).selected || [])];
-  menuArea.append(buildMenu(catalogue, { onModule: openModule, onHelp }),
+  menuArea.append(buildMenu(catalogue, { onModule: openModule, onHelp, active: () => !menuArea.hidden }),
     buildMenuPicture({ version: shellTexts().version, purpose: shellTexts().purpose }));
   answerKeys();
   showStartDialog(catalogue.startup || {}, (chosen) => { startup = chosen; });

@@ -56,11 +56,15 @@ function choice(decl, qualified, screen, onCommand) {
   return { element: input, outer: label };
 }
 
+// The usual size of a picture or chart that declares none, as the desktop's.
+const USUAL_SIZE = { Picture: [200, 200], Chart: [320, 260] };
+
 function picture(decl) {
   const holder = document.createElement('div');
   holder.className = decl.kind === 'Chart' ? 'chart' : 'picture';
-  holder.style.width = `${decl.width > 0 ? decl.width : 400}px`;
-  holder.style.height = `${decl.height > 0 ? decl.height : 300}px`;
+  const [width, height] = USUAL_SIZE[decl.kind];
+  holder.style.width = `${decl.width > 0 ? decl.width : width}px`;
+  holder.style.height = `${decl.height > 0 ? decl.height : height}px`;
   return holder;
 }
 

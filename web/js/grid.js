@@ -31,6 +31,8 @@ function makeCell(table, grid, row, column) {
   input.type = 'text';
   input.autocomplete = 'off';
   input.spellcheck = false;
+  // A cell asks for the width of a few figures; the table's header may widen it.
+  input.size = 7;
   input.dataset.row = String(row);
   input.dataset.col = String(column);
   if (locked(grid, column)) {

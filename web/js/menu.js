@@ -15,7 +15,7 @@ function makeMenu(caption, name, bar, topLevel) {
   const button = document.createElement('button');
   button.type = 'button';
   button.className = 'menu-title';
-  setCaption(button, caption);
+  button.dataset.caption = caption;
   const items = document.createElement('ul');
   items.className = 'menu-items';
   menu.append(button, items);
@@ -24,7 +24,7 @@ function makeMenu(caption, name, bar, topLevel) {
     const wasOpen = menu.classList.contains('open');
     if (topLevel) closeAll(bar);
     else for (const sibling of menu.parentElement.children) sibling.classList.remove('open');
-    menu.classList.toggle('open', !wasOpen);
+    if (!wasOpen) openMenu(menu);
   });
   menu.addEventListener('mouseenter', () => {
     if (!bar.querySelector('.menu.open')) return;
@@ -39,14 +39,93 @@ function leaf(caption, onClick, enabled) {
   item.className = 'leaf';
   const button = document.createElement('button');
   button.type = 'button';
-  setCaption(button, caption);
+  button.dataset.caption = caption;
+  button.textContent = caption;
   button.disabled = !enabled;
   button.addEventListener('click', onClick);
   item.append(button);
   return { item, button };
 }
 
-export function buildMenu(catalogue, { onModule, onHelp }) {
+function isLetter(ch) {
+  return /\p{L}/u.test(ch);
+}
+
+// The access keys the desktop gives the items of one menu: the program's own
+// marks first, then for each item the first free letter that starts a word,
+// else any free letter.
+function withAccessKeys(captions) {
+  const taken = new Set();
+  for (const caption of captions) {
+    const at = caption.indexOf('&');
+    if (at >= 0 && at + 1 < caption.length) taken.add(caption[at + 1].toLowerCase());
+  }
+  const mark = (caption, at) => {
+    taken.add(caption[at].toLowerCase());
+    return `${caption.slice(0, at)}&${caption.slice(at)}`;
+  };
+  return captions.map((caption) => {
+    if (caption.includes('&')) return caption;
+    for (let i = 0; i < caption.length; i++) {
+      const wordStart = i === 0 || !isLetter(caption[i - 1]);
+      if (wordStart && isLetter(caption[i]) && !taken.has(caption[i].toLowerCase())) return mark(caption, i);
+    }
+    for (let i = 0; i < caption.length; i++) {
+      if (isLetter(caption[i]) && !taken.has(caption[i].toLowerCase())) return mark(caption, i);
+    }
+    return caption;
+  });
+}
+
+function giveAccessKeys(list) {
+  const buttons = [...list.children].map((item) => item.querySelector(':scope > button'));
+  const captions = withAccessKeys(buttons.map((b) => b.dataset.caption));
+  buttons.forEach((b, i) => setCaption(b, captions[i]));
+  for (const item of list.children) {
+    const sub = item.querySelector(':scope > .menu-items');
+    if (sub) giveAccessKeys(sub);
+  }
+}
+
+function openMenu(menu) {
+  menu.classList.add('open');
+  const first = menu.querySelector(':scope > .menu-items > li > button:enabled');
+  if (first) first.focus();
+}
+
+// Alt and a letter opens a menu of the bar, F10 the first; in an open menu a
+// letter picks its item and the arrows walk it.
+function answerKeys(bar, active) {
+  document.addEventListener('keydown', (event) => {
+    if (!active() || document.querySelector('dialog[open]')) return;
+    const open = [...bar.querySelectorAll('.menu.open')].pop();
+    if (event.key === 'F10' || (event.altKey && event.key.length === 1)) {
+      const letter = event.key.toLowerCase();
+      const menu = [...bar.children].find((m) => (event.key === 'F10' ? true : m.firstChild.dataset.accel === letter));
+      if (!menu) return;
+      event.preventDefault();
+      closeAll(bar);
+      openMenu(menu);
+      return;
+    }
+    if (!open) return;
+    const items = [...open.querySelectorAll(':scope > .menu-items > li > button:enabled')];
+    if (event.key === 'ArrowDown' || event.key === 'ArrowUp') {
+      event.preventDefault();
+      const at = items.indexOf(document.activeElement);
+      const next = event.key === 'ArrowDown' ? at + 1 : at - 1;
+      items[(next + items.length) % items.length]?.focus();
+    } else if (event.key.length === 1 && !event.ctrlKey && !event.altKey) {
+      const marked = items.find((b) => b.dataset.accel === event.key.toLowerCase());
+      if (!marked) return;
+      event.preventDefault();
+      if (marked.classList.contains('menu-title')) openMenu(marked.parentElement);
+      else marked.click();
+    }
+  });
+}
+
+export function buildMenu(catalogue, { onModule, onHelp, active }) {
   const nav = document.createElement('nav');
   nav.id = 'menu';
   const bar = document.createElement('ul');
@@ -88,6 +167,8 @@ export function buildMenu(catalogue, { onModule, onHelp }) {
     button.dataset.help = entry.command;
     help.querySelector('.menu-items').append(item);
   }
+  giveAccessKeys(bar);
+  answerKeys(bar, active);
   document.addEventListener('click', () => closeAll(bar));
   document.addEventListener('keydown', (event) => {
     if (event.key === 'Escape') closeAll(bar);

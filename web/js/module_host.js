@@ -125,6 +125,15 @@ export class ModuleHost {
     if (outcome.focus) this.focus(outcome.focus);
   }
 
+  // The module's window opens with the focus on its first box, as the desktop's.
+  focusFirst() {
+    const main = this.screens.get(this.info.key);
+    if (!main) return;
+    const boxes = main.section.querySelectorAll('.page input:not([readonly]):not(:disabled), .page select:not(:disabled)');
+    const first = [...boxes].find((box) => !box.closest('[hidden]') && !box.closest('fieldset[disabled]'));
+    if (first) first.focus();
+  }
+
   focus(name) {
     const element = document.querySelector(`[data-name="${CSS.escape(name)}"]`);
     if (!element || element.closest('[hidden]')) return;
@@ -139,8 +148,10 @@ export class ModuleHost {
         if (target === 'FormAjuda') this.showHelp();
         else this.raise(target);
         break;
+      case 'hide':
       case 'unload':
-        if (target === this.info.key) this.shell.toMenu();
+        if (target === 'FormAjuda' && pictures.help && pictures.help.hideHelp) pictures.help.hideHelp();
+        else if (kind === 'unload' && target === this.info.key) this.shell.toMenu();
         break;
       case 'report':
         if (pictures.report) pictures.report.showReport({ call: this.call, session: this.session, key: target,

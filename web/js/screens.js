@@ -62,11 +62,17 @@ function place(grid, entries) {
       pair.append(parts.outer);
       if (parts.unit) pair.append(parts.unit);
       parts.pair = pair;
+      caption.classList.add('first');
+      pair.classList.add('rest');
       grid.append(caption, pair);
       break;
     }
     case 'List':
-      if (parts.caption) grid.append(parts.caption, parts.outer);
+      if (parts.caption) {
+        parts.caption.classList.add('first');
+        parts.outer.classList.add('rest');
+        grid.append(parts.caption, parts.outer);
+      }
       else grid.append(spanAll(parts.outer));
       break;
     case 'Grid':
@@ -148,7 +154,7 @@ export function buildScreen(decl, { onCommand, onToolbar, onClose, withSteps }) 
     for (let k = i; k < end; k++) {
       const c = controls[k];
       const parts = makeControl(c, decl.name, captions.get(c.frame) ?? '', onCommand);
-      const entry = { decl: c, parts };
+      const entry = { decl: c, parts, element: parts.element };
       screen.controls.set(c.name, entry);
       entries.push(entry);
     }
