@@ -64,6 +64,9 @@ public:
     const std::map<std::string, std::string>& texts() const { return texts_; }
     const std::map<std::string, GridRows>& grids() const { return grids_; }
     const std::vector<ScreenDecl>& screens() const { return screens_; }
+    // The qualified controls and frames disabled or hidden now.
+    const std::set<std::string>& disabledNames() const { return disabled_; }
+    const std::set<std::string>& hiddenNames() const { return hidden_; }
 
 private:
     std::string main_;

@@ -92,6 +92,9 @@ public:
     // window's own close, say) are kept the same way.
     void apply(const Outcome& outcome);
     bool screenShown(const std::string& screen) const;
+    // The screens shown now, in the order they were shown, and those disabled.
+    const std::vector<std::string>& shownScreens() const { return shown_; }
+    const std::vector<std::string>& disabledScreens() const { return disabledScreens_; }
 
     // With recording on, each "CALCULAR" writes its "Passo a passo"; the session
     // keeps the one of the latest run, stopped or not. Off, nothing is recorded.

@@ -38,8 +38,9 @@ StartDefaults readStartup(const json& c) {
     const std::pair<const char*, int> fields[] = {
         {"fck", 1}, {"stirrups", 2}, {"bars", 3}, {"ecs", 4}, {"es", 5}};
     for (const auto& [key, value] : s.items()) {
+        const std::string& name = key;  // a lambda may not capture a structured binding in every compiler
         auto it = std::find_if(std::begin(fields), std::end(fields),
-                               [&](const auto& f) { return key == f.first; });
+                               [&](const auto& f) { return name == f.first; });
         if (it == std::end(fields)) throw CaseError("opção de início desconhecida: " + excerpt(key));
         std::string text = value.is_string() ? value.get<std::string>() : value.dump();
         if (!d.select(it->second, text))
@@ -138,6 +139,10 @@ json parseCase(const std::string& text) {
     } catch (const json::exception& e) {
         throw CaseError("o arquivo do caso não é JSON válido: " + parserWords(e));
     }
+}
+
+std::string outcomeText(const json& outcome) {
+    return outcome.dump(2, ' ', false, json::error_handler_t::replace) + "\n";
 }
 
 CaseRun runCase(const json& c, bool recordSteps) {

@@ -25,5 +25,7 @@ struct CaseRun {
 // With recordSteps each "CALCULAR" writes its "Passo a passo" (session.steps()).
 CaseRun runCase(const nlohmann::json& caseFile, bool recordSteps = false);
 nlohmann::json parseCase(const std::string& text);
+// The outcome as morve-calc prints it: indented by two, a line end after it.
+std::string outcomeText(const nlohmann::json& outcome);
 
 }  // namespace morve

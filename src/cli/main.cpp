@@ -141,7 +141,7 @@ int main(int argc, char** argv) {
                 return 2;
             }
         } else {
-            std::cout << run.outcome.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << "\n";
+            std::cout << morve::outcomeText(run.outcome);
         }
     } catch (const morve::CaseError& e) {
         std::cerr << "morve-calc: " << casePath << ": " << e.what() << "\n";

@@ -149,16 +149,13 @@ AboutWindow::AboutWindow() {
     setObjectName(QStringLiteral("FormAbout"));
     setWindowTitle(QStringLiteral(" MORVE"));
     setAttribute(Qt::WA_DeleteOnClose);
-    auto* title = new QLabel(QStringLiteral("MORVE - 2014"), this);
+    auto* title = new QLabel(QString::fromUtf8(kAboutHeading), this);
     QFont f = title->font();
     f.setBold(true);
     f.setPointSizeF(f.pointSizeF() * 1.6);
     title->setFont(f);
     auto* version = new QLabel(QString::fromUtf8(kVersionCaption), this);
-    auto* purpose = new QLabel(QStringLiteral("Ferramenta destinada à elaboração de projeto de estruturas de "
-                                              "concreto armado, com cálculo passo a passo. Ideal para o ensino "
-                                              "e para o projetista iniciante."),
-                               this);
+    auto* purpose = new QLabel(QString::fromUtf8(kAboutPurpose), this);
     purpose->setWordWrap(true);
     purpose->setMinimumWidth(360);
     // The terms the program is distributed on, below what it is for.

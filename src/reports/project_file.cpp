@@ -390,7 +390,11 @@ std::string projectFileTag(const std::string& path) {
     std::string first(256, '\0');
     in.read(first.data(), static_cast<std::streamsize>(first.size()));
     first.resize(static_cast<std::size_t>(in.gcount()));
-    const Parsed parsed = parseFields(first.substr(0, first.find('\n')));
+    return projectTextTag(first);
+}
+
+std::string projectTextTag(const std::string& text) {
+    const Parsed parsed = parseFields(text.substr(0, text.find('\n')));
     if (parsed.records.empty() || parsed.records[0].fields.size() != 1 || !parsed.records[0].fields[0].quoted)
         return "";
     return parsed.records[0].fields[0].text;

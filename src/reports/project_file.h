@@ -42,6 +42,8 @@ ProjectResult openProjectFile(const Module& module, const std::string& path, For
 
 // The module tag a file starts with ("" when it has none): which module opens it.
 std::string projectFileTag(const std::string& path);
+// The same from the file's text.
+std::string projectTextTag(const std::string& text);
 
 // The name typed in the save dialog, as its box filters it key by key: control
 // characters and " * + , . / \ ` | and DEL become "_", so a typed name can carry

@@ -1,7 +1,8 @@
 #include "slabs/flat_slab.h"
 
-#include <charconv>
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <sstream>
 
 #include "app/numbers.h"
@@ -140,13 +141,15 @@ std::optional<FlatSlab> readSlab(const FormState& s, CheckSequence& checks) {
     return slab;
 }
 
-// The analysed slab kept as text, every number in its shortest exact form.
+// The analysed slab kept as text, every number with the 17 significant digits
+// that read back as the same double; printf and strtod round exactly in every C
+// library we build with, so the text is the same on every platform.
 std::string keep(const FlatSlab& slab) {
     std::string out;
     auto put = [&](double v) {
         char buf[32];
-        const auto r = std::to_chars(buf, buf + sizeof buf, v);
-        out.append(buf, r.ptr);
+        std::snprintf(buf, sizeof buf, "%.17g", v);
+        out += buf;
         out += ' ';
     };
     for (double v : {slab.a, slab.b, slab.d, slab.p, slab.pqp}) put(v);
@@ -219,8 +222,9 @@ std::optional<FlatSlab> analysedSlab(const FormState& s) {
     std::istringstream in(s.var(kAnalysed));
     std::vector<double> v;
     for (std::string word; in >> word;) {
-        double x = 0;
-        if (std::from_chars(word.data(), word.data() + word.size(), x).ec != std::errc()) return std::nullopt;
+        char* end = nullptr;
+        const double x = std::strtod(word.c_str(), &end);
+        if (end != word.c_str() + word.size() || !std::isfinite(x)) return std::nullopt;
         v.push_back(x);
     }
     if (v.size() < 5 || (v.size() - 5) % 4 != 0) return std::nullopt;
