@@ -28,7 +28,7 @@ async function settle(s, mark, limit = 15000) {
     });
     if (now.box) { await answerBox(s); calm = 0; continue; }
     started = started || now.busy || now.idle > mark;
-    const finished = now.idle > mark || (!started && Date.now() - t0 > 300);
+    const finished = now.idle > mark || (!started && Date.now() - t0 > 100);
     calm = finished && !now.busy ? calm + 1 : 0;
     if (calm >= 4) return;
     await sleep(15);
@@ -87,45 +87,98 @@ async function typeText(page, el, text) {
 
 function textOf(v) { return v === null || v === undefined ? '' : typeof v === 'string' ? v : JSON.stringify(v); }
 
-async function applySet(s, set) {
-  for (const [short, value] of Object.entries(set)) {
-    const name = qualify(s.key, short);
-    const el = await element(s.page, name);
-    const kind = await el.evaluate((e) => (e.tagName === 'SELECT' ? 'list' : e.type));
-    if (kind === 'list') await chooseItem(s, name, textOf(value));
-    else if (kind === 'radio' || kind === 'checkbox') {
-      const on = value === true || value === 'true';
-      const mark = await pageMark(s.page);
-      if ((await el.evaluate((e) => e.checked)) !== on) await el.click();
-      await settle(s, mark);
-    } else {
-      const shown = await typeText(s.page, el, textOf(value));
-      if (shown !== textOf(value)) s.why.push(`${name}: digitado "${textOf(value)}", a caixa ficou com "${shown}"`);
-    }
+// One value of the case into its control: a list picked, an option clicked, a box typed.
+async function setControl(s, name, value) {
+  const el = await element(s.page, name);
+  const kind = await el.evaluate((e) => (e.tagName === 'SELECT' ? 'list' : e.type));
+  if (kind === 'list') return chooseItem(s, name, textOf(value));
+  if (kind === 'radio' || kind === 'checkbox') {
+    const on = value === true || value === 'true';
+    const mark = await pageMark(s.page);
+    if ((await el.evaluate((e) => e.checked)) !== on) await el.click();
+    return settle(s, mark);
   }
+  const shown = await typeText(s.page, el, textOf(value));
+  if (shown !== textOf(value)) s.why.push(`${name}: digitado "${textOf(value)}", a caixa ficou com "${shown}"`);
 }
 
 // A table filled cell by cell; rows the table does not have yet come as a
 // block pasted on the last row it has, as from a spreadsheet. Rows the case
 // leaves out are emptied, as the case runner keeps only the rows it is given.
-async function applyGrids(s, grids) {
-  for (const [name, rows] of Object.entries(grids)) {
-    const cell = (r, c) => s.page.$(`${q(name)} input[data-row="${r}"][data-col="${c}"]`);
-    for (let r = 1; r <= rows.length; r++) {
-      if (!(await cell(r, 0)) && r > 1) await pasteRows(await cell(r - 1, 0), rows.slice(r - 2));
-      for (let c = 0; c < rows[r - 1].length; c++) {
-        const want = textOf(rows[r - 1][c]);
-        const el = await cell(r, c);
-        if (!el) throw new Error(`a tabela ${name} não tem a célula (${r}, ${c})`);
-        if (await el.evaluate((e, w) => e.value === w && (e.readOnly || e.dataset.pasted), want)) continue;
-        const shown = await typeText(s.page, el, want);
-        if (shown !== want) s.why.push(`${name}[${r}][${c}]: digitado "${want}", a célula ficou com "${shown}"`);
+async function fillGrid(s, name, rows) {
+  const cell = (r, c) => s.page.$(`${q(name)} input[data-row="${r}"][data-col="${c}"]`);
+  for (let r = 1; r <= rows.length; r++) {
+    if (!(await cell(r, 0)) && r > 1) await pasteRows(await cell(r - 1, 0), rows.slice(r - 2));
+    for (let c = 0; c < rows[r - 1].length; c++) {
+      const want = textOf(rows[r - 1][c]);
+      const el = await cell(r, c);
+      if (!el) throw new Error(`a tabela ${name} não tem a célula (${r}, ${c})`);
+      const fixed = await el.evaluate((e, w) => (e.readOnly ? (e.value === w ? 'same' : 'locked') : e.value === w && e.dataset.pasted ? 'same' : ''), want);
+      if (fixed === 'locked') {
+        s.notes.push(`${name}[${r}][${c}]: célula travada, o caso dá "${want}"`);
+        s.locked.add(`${name}[${r}][${c}]`);
       }
+      if (fixed) continue;
+      const shown = await typeText(s.page, el, want);
+      if (shown !== want) s.why.push(`${name}[${r}][${c}]: digitado "${want}", a célula ficou com "${shown}"`);
     }
-    const extra = await s.page.$$eval(`${q(name)} input[data-row]`, (cells, n) =>
-      cells.filter((e) => Number(e.dataset.row) > n && !e.readOnly && e.value !== '').map((e) => [e.dataset.row, e.dataset.col]), rows.length);
-    for (const [r, c] of extra) await typeText(s.page, await cell(r, c), '');
   }
+  const extra = await s.page.$$eval(`${q(name)} input[data-row]`, (cells, n) =>
+    cells.filter((e) => Number(e.dataset.row) > n && !e.readOnly && e.value !== '').map((e) => [e.dataset.row, e.dataset.col]), rows.length);
+  for (const [r, c] of extra) await typeText(s.page, await cell(r, c), '');
+}
+
+// Whether a user could work the control now: on a screen in view, not disabled,
+// and, for a table, with a first row to type in.
+function workable(page, name) {
+  return page.evaluate((n) => {
+    const e = document.querySelector(`[data-name="${n}"]`);
+    if (!e || !e.checkVisibility() || e.disabled || e.closest('[inert], fieldset[disabled]')) return false;
+    return e.tagName !== 'TABLE' || !!e.querySelector('input[data-row="1"]');
+  }, name);
+}
+
+// The case's values wait until their control can be worked: a companion's
+// boxes are typed once a press has brought it into view, as a user would.
+function queue(s, set = {}, grids = {}) {
+  for (const [name, value] of Object.entries(set)) s.pending.push({ name: qualify(s.key, name), value });
+  for (const [name, rows] of Object.entries(grids)) s.pending.push({ name: qualify(s.key, name), rows });
+}
+
+// A case may give values to a companion that none of its presses brings into
+// view (the button that opens it left out): those are put straight into the
+// page's controls before the first press, as the case runner sets them, and noted.
+async function flush(s, unseen = new Set()) {
+  for (const item of [...s.pending]) {
+    const forced = unseen.has(item.name.split('.')[0]);
+    if (!forced && !(await workable(s.page, item.name))) continue;
+    s.pending.splice(s.pending.indexOf(item), 1);
+    try {
+      if (forced) await forceControl(s, item);
+      else if (item.rows) await fillGrid(s, item.name, item.rows);
+      else await setControl(s, item.name, item.value);
+    } catch (e) { throw new Error(`${item.name}: ${e.message}`); }
+  }
+}
+
+async function forceControl(s, { name, value, rows }) {
+  s.notes.push(`${name}: posto sem a tela à vista (nenhum botão do caso a mostra)`);
+  const missing = await s.page.evaluate((n, v, cells) => {
+    const e = document.querySelector(`[data-name="${n}"]`);
+    if (!e) return 'a página não tem o controle';
+    if (cells) {
+      for (const [r, row] of cells.entries())
+        for (const [c, text] of row.entries()) {
+          const cell = e.querySelector(`input[data-row="${r + 1}"][data-col="${c}"]`);
+          if (!cell) return `a tabela não tem a célula (${r + 1}, ${c})`;
+          cell.value = text;
+        }
+    } else if (e.tagName === 'SELECT') e.selectedIndex = [...e.options].findIndex((o) => o.text === v);
+    else if (e.type === 'radio' || e.type === 'checkbox') e.checked = v === 'true';
+    else e.value = v;
+    return '';
+  }, name, rows ? null : textOf(value), rows ? rows.map((r) => r.map(textOf)) : null);
+  if (missing) throw new Error(missing);
 }
 
 async function pasteRows(at, rows) {
@@ -145,7 +198,7 @@ async function press(s, name) {
   if (state.disabled || !state.visible)
     throw new Error(`o botão ${name} está ${state.disabled ? 'desabilitado' : 'escondido'} na página`);
   const mark = await pageMark(s.page);
-  await el.click();
+  await el.click().catch((e) => { throw new Error(`${name}: ${e.message}`); });
   await settle(s, mark);
 }
 
@@ -238,7 +291,7 @@ function badWords(text) {
 
 // Differences between the page and morve-calc: fields, table cells and, unless
 // messages is null, the message boxes.
-function compare(shown, native, messages) {
+function compare(shown, native, messages, locked = new Set()) {
   const why = [];
   for (const [n, want] of Object.entries(native.fields)) {
     if (!(n in shown.fields)) { if (want !== '') why.push(`${n}: a página não mostra "${want}"`); continue; }
@@ -250,7 +303,7 @@ function compare(shown, native, messages) {
     for (let r = 1; r < Math.max(rows.length, got.length); r++)
       for (let c = 0; c < Math.max((rows[r] || []).length, (got[r] || []).length); c++) {
         const want = (rows[r] || [])[c] || '', have = (got[r] || [])[c] || '';
-        if (want !== have) why.push(`${n}[${r}][${c}]: página "${have}", morve-calc "${want}"`);
+        if (want !== have && !locked.has(`${n}[${r}][${c}]`)) why.push(`${n}[${r}][${c}]: página "${have}", morve-calc "${want}"`);
       }
   }
   const expected = messages ? native.steps.flatMap((st) => st.messages) : [];
@@ -271,16 +324,21 @@ async function playCase(page, url, c, dir, nativePresses) {
   await load(page, url);
   await confirmStart(page, c.startup);
   await openModule(page, c.module);
-  const s = { page, key: c.module, answers: (c.answers || []).map(textOf), messages: [], why: [] };
+  const s = { page, key: c.module, answers: (c.answers || []).map(textOf), messages: [], why: [], notes: [],
+    pending: [], locked: new Set() };
   if (c.open) await openProject(s, path.resolve(dir, c.open));
-  if (c.set) await applySet(s, c.set);
-  if (c.grids) await applyGrids(s, c.grids);
-  for (const p of c.press || nativePresses) {
-    if (typeof p === 'object') {
-      if (p.set) await applySet(s, p.set);
-      if (p.grids) await applyGrids(s, p.grids);
-    } else await press(s, qualify(c.module, p));
+  queue(s, c.set, c.grids);
+  const presses = c.press || nativePresses;
+  const named = new Set([c.module, ...presses.filter((p) => typeof p === 'string').map((p) => qualify(c.module, p).split('.')[0])]);
+  let unseen = new Set(s.pending.map((i) => i.name.split('.')[0]).filter((screen) => !named.has(screen)));
+  for (const p of presses) {
+    if (typeof p === 'object') queue(s, p.set, p.grids);
+    await flush(s, unseen);
+    unseen = new Set();
+    if (typeof p !== 'object') await press(s, qualify(c.module, p));
   }
+  await flush(s);
+  for (const item of s.pending) s.why.push(`${item.name}: a página nunca deixou o controle ao alcance do usuário`);
   return s;
 }
 
@@ -289,7 +347,7 @@ async function playCase(page, url, c, dir, nativePresses) {
 async function checkCase(page, url, c, file) {
   const native = calcCase(file);
   const s = await playCase(page, url, c, path.dirname(file), native.steps.map((st) => st.press));
-  const why = [...s.why, ...compare(await readPage(page), native, s.messages), ...page.errors];
+  const why = [...s.why, ...compare(await readPage(page), native, s.messages, s.locked), ...page.errors];
   page.errors.length = 0;
   return { why, s, native };
 }

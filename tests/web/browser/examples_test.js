@@ -12,11 +12,14 @@ h.main(async (browser, url) => {
   const results = [];
   for (const ex of h.examples().filter((_, i) => i % shares === share - 1)) {
     const t0 = Date.now();
-    let why;
+    let why, notes = [];
     try {
-      why = (await d.checkCase(page, url, ex.json, ex.file)).why;
+      const run = await d.checkCase(page, url, ex.json, ex.file);
+      ({ why } = run);
+      notes = run.s.notes;
     } catch (e) { why = [e.message, ...page.errors.splice(0)]; }
     console.log(`${why.length ? 'DIFERE' : 'ok    '} ${ex.name} (${Date.now() - t0} ms)`);
+    for (const n of notes) console.log(`       nota: ${n}`);
     results.push({ name: ex.name, ok: !why.length, why });
   }
   return h.tally(results);
