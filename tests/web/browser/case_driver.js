@@ -91,6 +91,7 @@ function textOf(v) { return v === null || v === undefined ? '' : typeof v === 's
 async function setControl(s, name, value) {
   const el = await element(s.page, name);
   const kind = await el.evaluate((e) => (e.tagName === 'SELECT' ? 'list' : e.type));
+  if (kind === 'list' && textOf(value) === '') return forceControl(s, { name, value: '' });
   if (kind === 'list') return chooseItem(s, name, textOf(value));
   if (kind === 'radio' || kind === 'checkbox') {
     const on = value === true || value === 'true';
@@ -162,7 +163,7 @@ async function flush(s, unseen = new Set()) {
 }
 
 async function forceControl(s, { name, value, rows }) {
-  s.notes.push(`${name}: posto sem a tela à vista (nenhum botão do caso a mostra)`);
+  s.notes.push(`${name}: posto direto, sem teclado ("${rows ? 'tabela' : textOf(value)}")`);
   const missing = await s.page.evaluate((n, v, cells) => {
     const e = document.querySelector(`[data-name="${n}"]`);
     if (!e) return 'a página não tem o controle';
@@ -197,6 +198,14 @@ async function press(s, name) {
   const state = await el.evaluate((e) => ({ disabled: e.disabled, visible: e.checkVisibility() }));
   if (state.disabled || !state.visible)
     throw new Error(`o botão ${name} está ${state.disabled ? 'desabilitado' : 'escondido'} na página`);
+  // A button under another screen cannot be clicked by a user either.
+  const over = await el.evaluate((e) => {
+    e.scrollIntoView({ block: 'center' });
+    const r = e.getBoundingClientRect();
+    const top = document.elementFromPoint(r.left + r.width / 2, r.top + r.height / 2);
+    return !top || e.contains(top) ? '' : (top.closest('[data-screen]') || top).dataset.screen || top.tagName;
+  });
+  if (over) throw new Error(`o botão ${name} está coberto por ${over}`);
   const mark = await pageMark(s.page);
   await el.click().catch((e) => { throw new Error(`${name}: ${e.message}`); });
   await settle(s, mark);
@@ -209,6 +218,23 @@ async function openProject(s, file) {
     s.page.click(q(`${s.key}.Toolbar1.Abrir`))]);
   await chooser.accept([file]);
   await settle(s, mark);
+}
+
+// Back to the module's main screen to reach its toolbar, as a user would: Esc
+// on the companion on top, or its one button (the "OK" of a results window).
+async function backToMain(page, key) {
+  const s = { page, answers: [], messages: [], why: [] };
+  for (let i = 0; i < 6; i++) {
+    if (await page.$eval(q(`${key}.Toolbar1.Salvar`), (e) => e.checkVisibility())) return;
+    const mark = await pageMark(page);
+    if (i % 2 === 0) await page.keyboard.press('Escape');
+    else {
+      const only = await page.$$('section.screen:not([hidden]) [data-kind="Command"]:not([disabled])');
+      if (only.length === 1) await only[0].click();
+    }
+    await settle(s, mark);
+  }
+  throw new Error(`não foi possível voltar à tela ${key}`);
 }
 
 // A small dialog of the page (the report's title, a file's name) answered with OK.
@@ -367,5 +393,5 @@ function variants(fileJson) {
   });
 }
 
-module.exports = { confirmDialog, openReport, confirmStart, openModule, playCase, checkCase, readPage, compare, badWords,
+module.exports = { backToMain, confirmDialog, openReport, confirmStart, openModule, playCase, checkCase, readPage, compare, badWords,
   pageMark, settle, press, variants, writeCase, q, qualify };

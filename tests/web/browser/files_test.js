@@ -19,6 +19,7 @@ const squeeze = (t) => t.replace(/\s+/g, ' ').trim();
 
 async function download(page, dir, key) {
   const before = new Set(fs.readdirSync(dir));
+  await d.backToMain(page, key);
   await page.click(d.q(`${key}.Toolbar1.Salvar`));
   await d.confirmDialog(page, 'file-name');
   for (let t = 0; t < 100; t++) {
@@ -49,6 +50,7 @@ function textPages(text) {
 async function checkReport(page, ex, dir) {
   const why = [];
   const key = ex.json.module;
+  await d.backToMain(page, key);
   await d.openReport(page, key);
   const shown = await page.$$eval('#report .report-page', (pages) => pages.map((p) =>
     [...p.querySelectorAll('.report-line, .report-picture')].map((e) => (e.classList.contains('report-picture')
