@@ -147,11 +147,12 @@ function queue(s, set = {}, grids = {}) {
 }
 
 // A case may give values to a companion that none of its presses brings into
-// view (the button that opens it left out): those are put straight into the
-// page's controls before the first press, as the case runner sets them, and noted.
+// view (the button that opens it left out): its boxes are put straight into the
+// page's controls before the first press, as the case runner sets them, and
+// noted; its tables wait for the module to point at the button (see press).
 async function flush(s, unseen = new Set()) {
   for (const item of [...s.pending]) {
-    const forced = unseen.has(item.name.split('.')[0]);
+    const forced = unseen.has(item.name.split('.')[0]) && !item.rows;
     if (!forced && !(await workable(s.page, item.name))) continue;
     s.pending.splice(s.pending.indexOf(item), 1);
     try {
@@ -220,12 +221,12 @@ async function openProject(s, file) {
   await settle(s, mark);
 }
 
-// Back to the module's main screen to reach its toolbar, as a user would: Esc
-// on the companion on top, or its one button (the "OK" of a results window).
-async function backToMain(page, key) {
+// Back to where a control can be reached (the main screen's toolbar, say), as a
+// user would: Esc on the companion on top, or its one button (a results window's "OK").
+async function backTo(page, name) {
   const s = { page, answers: [], messages: [], why: [] };
   for (let i = 0; i < 6; i++) {
-    if (await page.$eval(q(`${key}.Toolbar1.Salvar`), (e) => e.checkVisibility())) return;
+    if (await page.$eval(q(name), (e) => e.checkVisibility())) return;
     const mark = await pageMark(page);
     if (i % 2 === 0) await page.keyboard.press('Escape');
     else {
@@ -234,8 +235,10 @@ async function backToMain(page, key) {
     }
     await settle(s, mark);
   }
-  throw new Error(`não foi possível voltar à tela ${key}`);
+  throw new Error(`não foi possível voltar a ${name}`);
 }
+
+const backToMain = (page, key) => backTo(page, `${key}.Toolbar1.Salvar`);
 
 // A small dialog of the page (the report's title, a file's name) answered with OK.
 async function confirmDialog(page, id) {
@@ -345,6 +348,27 @@ function compare(shown, native, messages, locked = new Set()) {
   return why;
 }
 
+// A press the module refuses for want of a table the case fills on a companion
+// it never opens: as a user, follow the focus the module gives (the button of
+// that companion), fill the table there, come back and press again.
+async function pressFollowing(s, name) {
+  const before = s.messages.length;
+  await press(s, name);
+  const refused = s.messages.slice(before).some((m) => m.kind === 'warning');
+  if (!refused || !s.pending.some((i) => i.rows && s.unopened.has(i.name.split('.')[0]))) return;
+  const hint = await s.page.evaluate(() => {
+    const e = document.activeElement;
+    return e && e.dataset.kind === 'Command' && !e.disabled ? e.dataset.name : null;
+  });
+  if (!hint || hint === name) return;
+  s.notes.push(`${name}: a tabela do caso foi digitada pela tela que ${hint} abre, e ${name} apertado de novo`);
+  s.messages.length = before;
+  await press(s, hint);
+  await flush(s);
+  await backTo(s.page, name);
+  await press(s, name);
+}
+
 // Plays a case on a freshly loaded page; the state it leaves is for the caller.
 async function playCase(page, url, c, dir, nativePresses) {
   await load(page, url);
@@ -356,12 +380,13 @@ async function playCase(page, url, c, dir, nativePresses) {
   queue(s, c.set, c.grids);
   const presses = c.press || nativePresses;
   const named = new Set([c.module, ...presses.filter((p) => typeof p === 'string').map((p) => qualify(c.module, p).split('.')[0])]);
-  let unseen = new Set(s.pending.map((i) => i.name.split('.')[0]).filter((screen) => !named.has(screen)));
+  s.unopened = new Set(s.pending.map((i) => i.name.split('.')[0]).filter((screen) => !named.has(screen)));
+  let unseen = s.unopened;
   for (const p of presses) {
     if (typeof p === 'object') queue(s, p.set, p.grids);
     await flush(s, unseen);
     unseen = new Set();
-    if (typeof p !== 'object') await press(s, qualify(c.module, p));
+    if (typeof p !== 'object') await pressFollowing(s, qualify(c.module, p));
   }
   await flush(s);
   for (const item of s.pending) s.why.push(`${item.name}: a página nunca deixou o controle ao alcance do usuário`);

@@ -10,7 +10,8 @@ const d = require('./case_driver');
 
 const MOST = 6;
 
-// The first case of each file whose answers hold a Yes, its project file made absolute.
+// The first case of each file whose answers hold a Yes and that is typed on the
+// main screen alone (no tables), its project file made absolute.
 function yesCases() {
   const found = [];
   for (const family of fs.readdirSync(h.env.cases).sort()) {
@@ -18,7 +19,7 @@ function yesCases() {
     if (!fs.statSync(dir).isDirectory()) continue;
     for (const f of fs.readdirSync(dir).filter((n) => n.endsWith('.json')).sort()) {
       const c = d.variants(JSON.parse(fs.readFileSync(path.join(dir, f), 'utf8')))
-        .find((v) => (v.answers || []).includes('yes'));
+        .find((v) => (v.answers || []).includes('yes') && !v.grids);
       if (!c) continue;
       if (c.open) c.open = path.resolve(dir, c.open);
       found.push({ name: `${family}/${f}`, json: c });
