@@ -76,11 +76,12 @@ async function chooseItem(s, name, text) {
   }
 }
 
-// Selects what the box holds and types over it; the key filter has its say on every key.
+// Selects what the box holds and types over it (Delete empties it, as the
+// program's boxes take no Backspace); the key filter has its say on every key.
 async function typeText(page, el, text) {
   await el.click();
   await el.evaluate((e) => e.select());
-  if (text === '') await page.keyboard.press('Backspace');
+  if (text === '') await page.keyboard.press('Delete');
   else await page.keyboard.type(text);
   return el.evaluate((e) => e.value);
 }
@@ -239,6 +240,9 @@ async function backTo(page, name) {
 }
 
 const backToMain = (page, key) => backTo(page, `${key}.Toolbar1.Salvar`);
+
+// One button clicked outside a case, its messages answered with their defaults.
+const pressButton = (page, name) => press({ page, answers: [], messages: [], why: [] }, name);
 
 // A small dialog of the page (the report's title, a file's name) answered with OK.
 async function confirmDialog(page, id) {
@@ -418,5 +422,5 @@ function variants(fileJson) {
   });
 }
 
-module.exports = { backToMain, confirmDialog, openReport, confirmStart, openModule, playCase, checkCase, readPage, compare, badWords,
+module.exports = { pressButton, backToMain, confirmDialog, openReport, confirmStart, openModule, playCase, checkCase, readPage, compare, badWords,
   pageMark, settle, press, variants, writeCase, q, qualify };

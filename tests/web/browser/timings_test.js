@@ -55,11 +55,19 @@ h.main(async (browser, url) => {
       guard(`${ex.name} ${t.command}`, Math.round(t.ms), GUARD.press);
     }
     if (!shots[ex.name]) continue;
-    await shoot(page, shots[ex.name]);
-    if (ex.json.module !== 'Form7') continue;
-    await d.backToMain(page, 'Form7');
-    await d.openReport(page, 'Form7');
-    await shoot(page, 'report');
+    try {
+      if (ex.json.module === 'Form34') {
+        await shoot(page, 'form34-resultados');
+        await d.backToMain(page, 'Form34');
+        await d.pressButton(page, 'Form34.Command10');
+        await shoot(page, 'form34');
+      } else {
+        await shoot(page, shots[ex.name]);
+        await d.backToMain(page, 'Form7');
+        await d.openReport(page, 'Form7');
+        await shoot(page, 'report');
+      }
+    } catch (e) { results.push({ name: `imagens de ${ex.name}`, ok: false, why: [e.message] }); }
   }
   console.log();
   return h.tally(results);
