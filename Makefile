@@ -2,6 +2,7 @@
 # make test  the same, then runs every test
 # make sanitize  the tests built and run under AddressSanitizer and UBSan
 # make package   a Debian package (build/morve_VERSION_ARCH.deb)
+# make web   the web version in build/web, to serve with any web server
 BUILD   ?= build
 CMAKE_FLAGS ?= -DCMAKE_BUILD_TYPE=Release
 PACKAGES := g++ cmake ninja-build qt6-base-dev qt6-charts-dev qt6-svg-dev libqt6opengl6-dev \
@@ -9,14 +10,21 @@ PACKAGES := g++ cmake ninja-build qt6-base-dev qt6-charts-dev qt6-svg-dev libqt6
             qt6-translations-l10n \
             dpkg-dev desktop-file-utils appstream shared-mime-info librsvg2-bin groff-base file lintian \
             libxlsxwriter-dev libdxflib-dev python3-openpyxl python3-ezdxf
+# The web version's compiler, and the node and Chromium its tests run in; only
+# `make web` (and so `make test`) asks for them, never `make run`.
+WEB_PACKAGES := emscripten nodejs npm chromium
 
-.PHONY: all deps configure build run test sanitize bench screenshots install package clean
+.PHONY: all deps web-deps configure build run test sanitize bench screenshots install package clean web
 
 all: build
 
-deps:
-	@missing=""; for p in $(PACKAGES); do \
-	  dpkg-query -W -f='$${Status}' $$p 2>/dev/null | grep -q 'install ok installed' || missing="$$missing $$p"; \
+# The packages of a list that are missing, installed from apt. A package counts as
+# there when dpkg has it or a program of its name is on the PATH (the npm that
+# comes with a nodejs of another origin, say).
+define install-missing
+	@missing=""; for p in $(1); do \
+	  dpkg-query -W -f='$${Status}' $$p 2>/dev/null | grep -q 'install ok installed' || \
+	  command -v $$p >/dev/null || missing="$$missing $$p"; \
 	done; \
 	if [ -n "$$missing" ]; then \
 	  echo "Instalando pacotes:$$missing"; \
@@ -24,6 +32,13 @@ deps:
 	  $$SUDO apt-get update -qq && \
 	  DEBIAN_FRONTEND=noninteractive $$SUDO apt-get install -y -qq --no-install-recommends $$missing >/dev/null; \
 	fi
+endef
+
+deps:
+	$(call install-missing,$(PACKAGES))
+
+web-deps:
+	$(call install-missing,$(WEB_PACKAGES))
 
 configure: deps
 	@[ -f $(BUILD)/build.ninja ] || cmake -S . -B $(BUILD) -G Ninja $(CMAKE_FLAGS) >/dev/null
@@ -40,8 +55,22 @@ run: configure
 	else cmake --build $(BUILD) -j2 --target morve-calc && \
 	  $(BUILD)/morve-calc --list && $(BUILD)/morve-calc examples/form7-armadura-simples.json; fi
 
-test: build
+test: build web
 	@cd $(BUILD) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j2
+
+# The core compiled to WebAssembly in $(BUILD)/wasm; $(BUILD)/web gets it beside
+# the page (web/) and the help pages, a folder any web server can serve as it is.
+WEB_OUT = $(abspath $(BUILD))/web
+web: web-deps
+	@[ -f $(BUILD)/wasm/build.ninja ] || emcmake cmake -S . -B $(BUILD)/wasm -G Ninja -DCMAKE_BUILD_TYPE=Release \
+	  -DMORVE_WEB_OUTPUT=$(WEB_OUT) >/dev/null
+	@cmake --build $(BUILD)/wasm -j2
+	@mkdir -p $(WEB_OUT)/ajuda
+	@if [ -d web ]; then cp -R web/. $(WEB_OUT)/; fi
+	@# Until the page is there, a page that says so.
+	@[ -f $(WEB_OUT)/index.html ] || printf '%s\n' '<!doctype html><html lang="pt-BR"><meta charset="utf-8">' \
+	  '<title>MORVE</title><p>A página do MORVE ainda não está nesta versão.</p></html>' > $(WEB_OUT)/index.html
+	@cp -R data/ajuda/. $(WEB_OUT)/ajuda/
 
 SANITIZE_BUILD ?= build-sanitize
 SANITIZE_FLAGS ?=

@@ -1,14 +1,14 @@
 # Run by ctest as "cmake -DSOURCE_DIR=... -P include_rules.cmake": the house has no
 # arrow back up and no family leans on another.
 #  - A module family (one folder each) includes no other family's headers, nor the
-#    front ends (gui/, render/, cli/); what two families share lives in basis/ or
+#    front ends (gui/, render/, cli/, web/); what two families share lives in basis/ or
 #    numeric/. Families write their reports into app/report_document.h, which
 #    reports/report_writer.h passes on with the paging.
 #  - The ground floor (app/, basis/, numeric/, draw/) includes nothing of the
 #    families nor of reports/, gui/, render/ or cli/ above it.
 cmake_minimum_required(VERSION 3.22)
 set(families anchorage beams columns continuous frames serviceability slabs stairs)
-set(front gui render cli)
+set(front gui render cli web)
 set(upper reports ${front})
 set(ground app basis numeric draw)
 set(faults "")
