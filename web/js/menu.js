@@ -179,8 +179,11 @@ export function buildMenu(catalogue, { onModule, onHelp, active }) {
 
 // The picture of the menu window: the program's name, its version and what it is for.
 export function buildMenuPicture(texts) {
+  // A beam section with its bars, the program's emblem, in the lower right corner.
+  const emblem = element('div', { className: 'menu-emblem' });
+  for (const row of ['top', 'bottom']) for (let i = 0; i < 3; i++) emblem.append(element('span', { className: `bar ${row}` }));
   return element('div', { className: 'menu-picture' },
     element('div', { className: 'menu-name', text: 'MORVE' }),
     element('div', { className: 'menu-version', text: texts.version || '' }),
-    element('div', { className: 'menu-purpose', text: texts.purpose || '' }));
+    element('div', { className: 'menu-purpose', text: texts.purpose || '' }), emblem);
 }
