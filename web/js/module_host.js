@@ -155,7 +155,7 @@ export class ModuleHost {
         break;
       case 'report':
         if (pictures.report) pictures.report.showReport({ call: this.call, session: this.session, key: target,
-          inputs: this.inputs(), caller: this.key });
+          inputs: this.inputs(), caller: document.activeElement });
         break;
       case 'savePicture':
       case 'printPicture': {
@@ -221,7 +221,7 @@ export class ModuleHost {
       case 'Início': this.shell.toStart(); break;
       case 'Imprimir':
         if (this.info.printKey && pictures.report) pictures.report.showReport({ call: this.call, session: this.session,
-          key: this.info.printKey, inputs: this.inputs(), caller: this.key });
+          key: this.info.printKey, inputs: this.inputs(), caller: document.activeElement });
         break;
       case 'Ajuda': this.showHelp(); break;
       case 'Sair':
