@@ -58,6 +58,7 @@ async function openModule(key) {
   menuArea.hidden = true;
   moduleArea.hidden = false;
   host = new ModuleHost({ call, opened, key, container: moduleArea, shell: { toMenu, toStart } });
+  host.focusFirst();
 }
 
 function answerKeys() {
@@ -73,6 +74,7 @@ function answerKeys() {
 }
 
 async function boot() {
+  window.morveTimings = window.morveTimings || [];
   startCore();
   const [answer] = await Promise.all([call({ op: 'catalogue' }), loadShellTexts(call), loadPictureModules()]);
   if (answer.error) {

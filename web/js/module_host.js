@@ -125,6 +125,15 @@ export class ModuleHost {
     if (outcome.focus) this.focus(outcome.focus);
   }
 
+  // The module's window opens with the focus on its first box, as the desktop's.
+  focusFirst() {
+    const main = this.screens.get(this.info.key);
+    if (!main) return;
+    const boxes = main.section.querySelectorAll('.page input:not([readonly]):not(:disabled), .page select:not(:disabled)');
+    const first = [...boxes].find((box) => !box.closest('[hidden]') && !box.closest('fieldset[disabled]'));
+    if (first) first.focus();
+  }
+
   focus(name) {
     const element = document.querySelector(`[data-name="${CSS.escape(name)}"]`);
     if (!element || element.closest('[hidden]')) return;

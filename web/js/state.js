@@ -14,7 +14,12 @@ function showList(select, items, selected) {
     for (const item of items) select.append(new Option(item, item));
   }
   const at = items.indexOf(selected);
-  select.selectedIndex = at;
+  if (select.selectedIndex !== at) select.selectedIndex = at;
+  // The selected item is scrolled into the list's view, as the desktop's list shows it.
+  if (at < 0 || !items.length || !select.clientHeight) return;
+  const row = select.scrollHeight / items.length;
+  if (at * row < select.scrollTop) select.scrollTop = at * row;
+  else if ((at + 1) * row > select.scrollTop + select.clientHeight) select.scrollTop = (at + 1) * row - select.clientHeight;
 }
 
 // A result longer than its box widens the box, so that no figure is cut.
