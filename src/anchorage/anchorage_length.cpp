@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "numeric/elementary.h"
+
 namespace morve {
 
 namespace {
@@ -45,7 +47,7 @@ double bondStrength(double fck, BarSurface surface, bool goodBond) {
     const double eta1 = surfaceCoefficient(surface), eta2 = bondZoneCoefficient(goodBond);
     // fctd of the concrete, with the logarithmic law of the high-strength classes.
     const double fc = fck / 1.4;
-    const double f0 = fck <= 50 ? 0.42 * std::cbrt(fc * fc) : 2.4 * std::log(1 + 0.15 * fc);
+    const double f0 = fck <= 50 ? 0.42 * portable::cbrt(fc * fc) : 2.4 * portable::log(1 + 0.15 * fc);
     return eta1 * eta2 * f0;
 }
 

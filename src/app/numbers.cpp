@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "numeric/elementary.h"
+
 namespace morve {
 
 double readNumber(std::string_view text) {
@@ -55,7 +57,7 @@ std::string scaledIntegerText(double y, int decimals) {
 
 std::string formatResult(double x, int decimals) {
     if (!std::isfinite(x)) return "";
-    double n = std::pow(10.0, decimals);
+    double n = portable::pow(10.0, decimals);
     double y = x * n;
     // nearbyint follows the default rounding mode, ties to even.
     y = std::fabs(y) < 32766.0 ? std::nearbyint(y) : std::floor(y);

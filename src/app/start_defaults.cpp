@@ -4,14 +4,15 @@
 #include <cmath>
 
 #include "app/numbers.h"
+#include "numeric/elementary.h"
 
 namespace morve {
 
 double computeEcs(double fck, std::string_view code) {
-    if (code == "CEB/90") return 18275.0 * std::cbrt((fck + 8.0) / 10.0);
+    if (code == "CEB/90") return 18275.0 * portable::cbrt((fck + 8.0) / 10.0);
     double alpha = std::min(1.0, 0.8 + 0.2 * fck / 80.0);
     if (fck <= 50) return alpha * 5600.0 * std::sqrt(fck);
-    return alpha * 21500.0 * std::cbrt((fck + 12.5) / 10.0);
+    return alpha * 21500.0 * portable::cbrt((fck + 12.5) / 10.0);
 }
 
 const std::vector<std::string>& StartDefaults::fckItems() {

@@ -4,13 +4,14 @@
 #include <cstdio>
 
 #include "app/numbers.h"
+#include "numeric/elementary.h"
 
 namespace morve {
 
 std::string traceNumber(double x) {
     if (!std::isfinite(x)) return "—";
     if (x == 0) return "0";
-    const int magnitude = static_cast<int>(std::floor(std::log10(std::fabs(x))));
+    const int magnitude = static_cast<int>(std::floor(portable::log10(std::fabs(x))));
     int decimals = 3 - magnitude;
     if (decimals < 0) decimals = 0;
     if (decimals > 12) decimals = 12;

@@ -6,6 +6,7 @@
 #include "basis/checks.h"
 #include "basis/messages.h"
 #include "app/report_document.h"
+#include "numeric/elementary.h"
 
 namespace morve {
 
@@ -27,7 +28,7 @@ void checkConcreteService(CheckSequence& checks, const FormState& s) {
     checks.warnIf(ecs <= 0, msg::kPositiveEcs, "Text2");
     // The code's secant modulus of this concrete, in MPa; a typed value far from it
     // is more likely a slip of units than a measured concrete.
-    const double eref = 18275 * std::cbrt((fck + 8) / 10);
+    const double eref = 18275 * portable::cbrt((fck + 8) / 10);
     checks.askIf(ecs < 700 * eref || ecs > 1300 * eref, msg::kEcsRange, "Text2")
         .askIf(creep > 5, msg::kHighCreep, "Text3");
 }

@@ -3,17 +3,19 @@
 #include <algorithm>
 #include <cmath>
 
+#include "numeric/elementary.h"
+
 namespace morve {
 
 StressBlockValues StressBlock(double fck) {
     if (fck <= 50) return {0.8, 0.85, 3.5};
     return {0.8 - (fck - 50) / 400, 0.85 * (1 - (fck - 50) / 200),
-            2.6 + 35 * std::pow((90 - fck) / 100, 4)};
+            2.6 + 35 * portable::pow((90 - fck) / 100, 4)};
 }
 
 StressBlockParametersValues StressBlockParameters(double fck) {
     StressBlockValues b = StressBlock(fck);
-    double epsC2 = fck <= 50 ? 2.0 : 2 + 0.085 * std::pow(fck - 50, 0.53);
+    double epsC2 = fck <= 50 ? 2.0 : 2 + 0.085 * portable::pow(fck - 50, 0.53);
     return {b.alphac, b.lambda, epsC2, b.ecu, 1 - epsC2 / b.ecu};
 }
 
@@ -48,12 +50,12 @@ double DuctilityLimit(DuctilityCriterion criterion, double beta, double fck, dou
 }
 
 double meanTensileStrength(double fck) {
-    return fck <= 50 ? 0.3 * std::pow(fck, 2.0 / 3.0) : 2.12 * std::log(1 + 0.11 * fck);
+    return fck <= 50 ? 0.3 * portable::pow(fck, 2.0 / 3.0) : 2.12 * portable::log(1 + 0.11 * fck);
 }
 
 double MinimumSteelRatio(double fck, double fyd) {
-    double rho = fck <= 50 ? 0.078 * std::pow(fck, 2.0 / 3.0) / fyd
-                           : 0.5512 * std::log(1 + 0.11 * fck) / fyd;
+    double rho = fck <= 50 ? 0.078 * portable::pow(fck, 2.0 / 3.0) / fyd
+                           : 0.5512 * portable::log(1 + 0.11 * fck) / fyd;
     return rho < 0.0015 ? 0.0015 : rho;
 }
 

@@ -5,14 +5,15 @@
 
 #include "app/numbers.h"
 #include "basis/materials.h"
+#include "numeric/elementary.h"
 
 namespace morve {
 
 double strutReduction(double fck) { return 1 - fck / 250; }
 
 double concreteShearStress(double fck, double gamac) {
-    return fck <= 50 ? 0.126 * std::pow(fck, 2.0 / 3.0) / gamac
-                     : 0.8904 * std::log(1 + 0.11 * fck) / gamac;
+    return fck <= 50 ? 0.126 * portable::pow(fck, 2.0 / 3.0) / gamac
+                     : 0.8904 * portable::log(1 + 0.11 * fck) / gamac;
 }
 
 double minimumStirrupRatio(double fck, double fyk) {

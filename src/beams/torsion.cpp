@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "numeric/elementary.h"
+
 namespace morve {
 
 HollowSection torsionHollowSection(double b, double h, double dPrime) {
@@ -39,7 +41,7 @@ double torsionBendingMinimumRatio(double fck, double fyd) {
     // The torsion module chooses the high-strength formula by fck in kN/cm2 against
     // 50, a test that never passes: every concrete up to 90 MPa takes the formula of
     // the ordinary ones. Kept so, for the results its users know.
-    return std::max(0.078 * std::pow(fck, 2.0 / 3.0) / fyd, 0.0015);
+    return std::max(0.078 * portable::pow(fck, 2.0 / 3.0) / fyd, 0.0015);
 }
 
 }  // namespace morve

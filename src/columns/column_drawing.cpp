@@ -4,6 +4,7 @@
 
 #include "columns/column_form.h"
 #include "columns/column_section.h"
+#include "numeric/elementary.h"
 
 namespace morve {
 
@@ -54,7 +55,7 @@ void circularSection(Drawing& g, const ColumnSection& s) {
     g.as(ShapeKind::Bars);
     for (int k = 0; k < n; ++k) {
         const double angle = 2 * kCirclePi * k / n;
-        g.circle({r + ring * std::sin(angle), r - ring * std::cos(angle)}, kBarRadius, colours::blue, true);
+        g.circle({r + ring * portable::sin(angle), r - ring * portable::cos(angle)}, kBarRadius, colours::blue, true);
     }
     g.dimension({0, s.h + 0.07 * s.h}, {s.h, s.h + 0.07 * s.h}, "h", 0, 0.05 * s.h);
 }

@@ -6,6 +6,7 @@
 #include "app/numbers.h"
 #include "columns/column_results.h"
 #include "columns/oblique_common.h"
+#include "numeric/elementary.h"
 #include "reports/report_writer.h"
 
 namespace morve {
@@ -115,7 +116,7 @@ private:
         if (!checks.stopped()) checkColumnSize(checks, bmin, section.area, kTables.command, kSlenderGamaf, "Text15");
         const double fcd = fck / 10 / gamac, fyd = fyk / 10 / gamas;
         const double nd = gamaf * nk, mxd = 100 * gamaf * mxk, myd = 100 * gamaf * myk;
-        checks.warnIf(!std::isfinite(nd) || !std::isfinite(std::hypot(mxd, myd)), kUndefinedResult);
+        checks.warnIf(!std::isfinite(nd) || !std::isfinite(portable::hypot(mxd, myd)), kUndefinedResult);
         if (checks.stopped()) return checks.outcome();
 
         const ObliqueMaterial material = obliqueMaterial(fck, fcd, fyd, es * 100);

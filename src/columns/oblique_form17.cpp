@@ -11,6 +11,7 @@
 #include "app/numbers.h"
 #include "columns/column_results.h"
 #include "columns/oblique_common.h"
+#include "numeric/elementary.h"
 #include "reports/report_writer.h"
 
 namespace morve {
@@ -71,7 +72,7 @@ std::optional<Prepared> prepare(const FormState& s, CheckSequence& checks) {
     for (std::size_t i = 0; i < typed.bars.size() && !checks.stopped(); ++i)
         checks.warnIf(!containsPoint(typed.outline, typed.bars[i]), barOutside(i + 1), kBarGrid)
             .warnIf(typed.areas[i] < 0, negativeBar(i + 1), kBarGrid);
-    checks.warnIf(!std::isfinite(nd) || !std::isfinite(std::hypot(mxd, myd)), kUndefinedResult);
+    checks.warnIf(!std::isfinite(nd) || !std::isfinite(portable::hypot(mxd, myd)), kUndefinedResult);
     if (checks.stopped()) return std::nullopt;
 
     // The bars share the steel as their typed areas do; without areas, equally.

@@ -5,6 +5,7 @@
 #include <numbers>
 
 #include "basis/false_position.h"
+#include "numeric/elementary.h"
 
 namespace morve {
 
@@ -52,8 +53,8 @@ ObliqueModel::ObliqueModel(ObliqueSection section, ObliqueMaterial material)
 TurnedSection ObliqueModel::turn(double angle) const {
     TurnedSection t;
     t.angle = angle;
-    t.cosine = std::cos(angle);
-    t.sine = std::sin(angle);
+    t.cosine = portable::cos(angle);
+    t.sine = portable::sin(angle);
     t.outline.reserve(section_.outline.size());
     for (const Point& p : section_.outline) t.outline.push_back(rotated(p, t.cosine, t.sine));
     double ymin = t.outline.empty() ? 0 : t.outline.front().y;
@@ -145,7 +146,7 @@ NeutralAxisSolution alignMoment(const ObliqueModel& model, double as, double nd,
         if (mxd == 0) return atAngle(myd > 0 ? -kPi / 2 : kPi / 2);
     }
 
-    const double target = std::atan2(myd, mxd);
+    const double target = portable::atan2(myd, mxd);
     int passes = 0;
     NeutralAxisSolution best;
     // The error of direction; it falls as the angle grows.
@@ -153,7 +154,7 @@ NeutralAxisSolution alignMoment(const ObliqueModel& model, double as, double nd,
         ++passes;
         best = atAngle(angle);
         const double mx = best.r.mx - centre.x, my = best.r.my - centre.y;
-        return wrapped((mx == 0 && my == 0 ? 0 : std::atan2(my, mx)) - target);
+        return wrapped((mx == 0 && my == 0 ? 0 : portable::atan2(my, mx)) - target);
     };
     auto done = [&](double e) { return std::abs(e) / kPi <= limits.angleTolerance; };
     auto finish = [&](bool converged) {
@@ -230,12 +231,12 @@ double surfaceGap(const ObliqueModel& model, double as, double n, double mx, dou
         centre.y += edge.r.my / 4;
     }
     double dx = mx - centre.x, dy = my - centre.y;
-    const double distance = std::hypot(dx, dy);
+    const double distance = portable::hypot(dx, dy);
     // The point on the centre: any ray will do.
     if (distance == 0) dx = 1, dy = 0;
     axis = alignMoment(model, as, n, dx, dy, limits, centre);
     converged = converged && axis.converged;
-    return std::hypot(axis.r.mx - centre.x, axis.r.my - centre.y) - distance;
+    return portable::hypot(axis.r.mx - centre.x, axis.r.my - centre.y) - distance;
 }
 
 // The gap that counts as nil: a hundred-thousandth of the moments at stake.
@@ -248,7 +249,7 @@ double gapTolerance(const ObliqueModel& model, double nd, double md) {
 SteelDesign designSteel(const ObliqueModel& model, double nd, double mxd, double myd, const SearchLimits& limits) {
     const ObliqueMaterial& m = model.material();
     const double ac = model.section().area;
-    const double md = std::hypot(mxd, myd);
+    const double md = portable::hypot(mxd, myd);
     const double squash = BilinearStress(m.es, m.block.epsC2 / 1000, m.fyd);
     SteelDesign out;
     // The steel that uniform compression needs.
@@ -268,7 +269,7 @@ SteelDesign designSteel(const ObliqueModel& model, double nd, double mxd, double
         if (!symmetric) return last = surfaceGap(model, as, nd, mxd, myd, limits, out.axis, out.converged);
         out.axis = alignMoment(model, as, nd, mxd, myd, limits);
         out.converged = out.axis.converged;
-        return last = (std::hypot(out.axis.r.mx, out.axis.r.my) - md) / md;
+        return last = (portable::hypot(out.axis.r.mx, out.axis.r.my) - md) / md;
     };
     const double tolerance = symmetric ? kSteelTolerance : gapTolerance(model, nd, md);
     if (nd == 0) as0 = 0.01 * ac * m.sigmacd / m.fyd;
@@ -300,7 +301,7 @@ SteelDesign designSteel(const ObliqueModel& model, double nd, double mxd, double
 SafetyFactor safetyFactor(const ObliqueModel& model, double as, double nd, double mxd, double myd,
                           const SearchLimits& limits) {
     SafetyFactor out;
-    const double md = std::hypot(mxd, myd);
+    const double md = portable::hypot(mxd, myd);
     if (nd == 0) {
         // Bending alone: the contour of the moments under no force surrounds the
         // origin, and S is its radius along the acting moment over that moment.
@@ -310,7 +311,7 @@ SafetyFactor safetyFactor(const ObliqueModel& model, double as, double nd, doubl
         }
         out.axis = alignMoment(model, as, 0, mxd, myd, limits);
         out.converged = out.axis.converged;
-        out.s = std::hypot(out.axis.r.mx, out.axis.r.my) / md;
+        out.s = portable::hypot(out.axis.r.mx, out.axis.r.my) / md;
         return out;
     }
     double last = 0;  // the gap of the last evaluation
@@ -323,7 +324,7 @@ SafetyFactor safetyFactor(const ObliqueModel& model, double as, double nd, doubl
     // section; there the contour has shrunk to the moment of the bars alone.
     const double b0 = model.squashForce(as) / nd;
     const Point atSquash = squashMoment(model, as);
-    double b = b0, gb = -std::hypot(b * mxd - atSquash.x, b * myd - atSquash.y);
+    double b = b0, gb = -portable::hypot(b * mxd - atSquash.x, b * myd - atSquash.y);
     if (std::abs(gb) <= tolerance) {
         out.s = b;
         return out;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "numeric/elementary.h"
+
 namespace morve {
 
 LayeredSection rectangularLayers(const std::vector<int>& barsPerLayer, double delta) {
@@ -20,7 +22,7 @@ LayeredSection ringLayers(int barCount, double delta) {
     LayeredSection s;
     const int n = barCount / 2 + 1;
     for (int i = 1; i <= n; ++i) {
-        const double c = std::cos(2.0 * (n - i) * kCirclePi / barCount);
+        const double c = portable::cos(2.0 * (n - i) * kCirclePi / barCount);
         s.bars.push_back(i == 1 || i == n ? 1 : 2);
         s.beta.push_back((1 - c) / 2 + c * delta);
     }
@@ -31,7 +33,7 @@ LayeredSection ringLayers(int barCount, double delta) {
 double ArcCos(double c) {
     if (c == 1) return 0;
     if (c == -1) return kCirclePi;
-    return std::atan(-c / std::sqrt(1 - c * c)) + 2 * std::atan(1.0);
+    return portable::atan(-c / std::sqrt(1 - c * c)) + 2 * portable::atan(1.0);
 }
 
 namespace {
@@ -62,9 +64,9 @@ BlockForce circleBlock(double xi, double lambda, double eta) {
     double c2 = 1;
     if (xi > (1 - eta) / (2 * lambda)) c2 = xi >= (1 + eta) / (2 * lambda) ? -1 : (1 - 2 * lambda * xi) / eta;
     const double theta2 = ArcCos(c2);
-    const double a = theta1 - std::sin(theta1) * std::cos(theta1);
-    const double b = eta * eta * (theta2 - std::sin(theta2) * std::cos(theta2));
-    const double s1 = std::sin(theta1), s2 = std::sin(theta2);
+    const double a = theta1 - portable::sin(theta1) * portable::cos(theta1);
+    const double b = eta * eta * (theta2 - portable::sin(theta2) * portable::cos(theta2));
+    const double s1 = portable::sin(theta1), s2 = portable::sin(theta2);
     return {(a - b) / ((1 - eta * eta) * kCirclePi),
             0.5 - (s1 * s1 * s1 - eta * eta * eta * s2 * s2 * s2) / (3 * (a - b))};
 }

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "app/numbers.h"
+#include "numeric/elementary.h"
 
 namespace morve {
 
@@ -14,7 +15,7 @@ constexpr double kSide = 100;
 
 void arrow(Drawing& g, Point from, Point to, Colour c = colours::black) {
     g.line(from, to, c, 1.5);
-    const double dx = to.x - from.x, dy = to.y - from.y, n = std::hypot(dx, dy);
+    const double dx = to.x - from.x, dy = to.y - from.y, n = portable::hypot(dx, dy);
     if (n == 0) return;
     const double ux = dx / n, uy = dy / n, s = 3;
     g.polyline({{to.x - s * ux - s * 0.5 * uy, to.y - s * uy + s * 0.5 * ux},

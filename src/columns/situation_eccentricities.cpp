@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "numeric/elementary.h"
+
 namespace morve {
 
 namespace {
@@ -12,7 +14,7 @@ constexpr double kPiSquared = 9.869604403666765;
 
 }  // namespace
 
-double cebSecantModulus(double fck) { return 18275 * std::cbrt((fck + 8) / 10); }
+double cebSecantModulus(double fck) { return 18275 * portable::cbrt((fck + 8) / 10); }
 
 double columnSecantModulus(double fck, bool nbr6118) {
     if (nbr6118 && fck <= 50) return 4760 * std::sqrt(fck);
@@ -66,7 +68,7 @@ DirectionEccentricities directionEccentricities(const ColumnDirection& d, const 
     double creepFactor = 0;
     if (e.lambda > 50) {
         const double euler = kPiSquared * (c.ecs / 10) * d.inertia / (d.le * d.le);
-        creepFactor = std::exp(c.phi * c.fk / (euler - c.fk)) - 1;
+        creepFactor = portable::exp(c.phi * c.fk / (euler - c.fk)) - 1;
     }
     const double base = e.moments ? e.intermediate + e.accidental : e.accidental;
     e.creep = creepFactor * base;

@@ -7,6 +7,7 @@
 
 #include "app/numbers.h"
 #include "continuous/form34.h"
+#include "numeric/elementary.h"
 
 namespace morve {
 
@@ -60,7 +61,7 @@ void couple(Drawing& g, double x, double y, double value) {
     std::vector<Point> arc;
     for (int k = 0; k <= 12; ++k) {
         const double a = std::numbers::pi * (0.15 + 0.7 * k / 12.0);
-        arc.push_back({x - r * std::cos(a), y - r * std::sin(a)});
+        arc.push_back({x - r * portable::cos(a), y - r * portable::sin(a)});
     }
     g.polyline(arc, false, colours::green, 1.5);
     const Point end = value > 0 ? arc.back() : arc.front();

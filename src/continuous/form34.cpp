@@ -7,6 +7,7 @@
 #include "basis/checks.h"
 #include "basis/messages.h"
 #include "continuous/form34_texts.h"
+#include "numeric/elementary.h"
 #include "reports/report_writer.h"
 
 namespace morve {
@@ -57,7 +58,7 @@ bool filledRow(const std::vector<std::string>& row) {
 
 Outcome beamData(FormState& s, Prompter& prompter) {
     const double fck = s.number("Text1"), ecs = s.number("Text2"), phi = s.number("Text8");
-    const double eref = 18275 * std::cbrt((fck + 8) / 10);
+    const double eref = 18275 * portable::cbrt((fck + 8) / 10);
     const int n = countIn(s, "Text3"), supports = countIn(s, "Text4");
     CheckSequence checks(prompter);
     checkConcreteRange(checks, fck, "Text1");

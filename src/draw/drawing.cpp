@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "numeric/elementary.h"
+
 namespace morve {
 
 Drawing& Drawing::line(Point a, Point b, Colour c, double width) {
@@ -37,7 +39,7 @@ Drawing& Drawing::dimension(Point a, Point b, std::string label, double offsetX,
     line(a, b, c);
     // Ticks across the dimension line, a fixed share of its length.
     double dx = b.x - a.x, dy = b.y - a.y;
-    double len = std::hypot(dx, dy);
+    double len = portable::hypot(dx, dy);
     if (len > 0) {
         double tx = -dy / len * len * 0.04, ty = dx / len * len * 0.04;
         line({a.x - tx, a.y - ty}, {a.x + tx, a.y + ty}, c);

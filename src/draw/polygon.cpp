@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "numeric/elementary.h"
+
 namespace morve {
 
 PolygonMoments polygonMoments(const std::vector<Point>& v) {
@@ -37,7 +39,7 @@ std::vector<Point> clipAbove(const std::vector<Point>& v, double cut) {
 Point rotated(Point p, double c, double s) { return {c * p.x + s * p.y, -s * p.x + c * p.y}; }
 
 std::vector<Point> rotated(const std::vector<Point>& points, double angle) {
-    const double c = std::cos(angle), s = std::sin(angle);
+    const double c = portable::cos(angle), s = portable::sin(angle);
     std::vector<Point> out;
     out.reserve(points.size());
     for (const Point& p : points) out.push_back(rotated(p, c, s));

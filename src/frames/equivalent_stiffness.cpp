@@ -5,6 +5,7 @@
 #include "app/numbers.h"
 #include "basis/messages.h"
 #include "frames/frame_texts.h"
+#include "numeric/elementary.h"
 
 namespace morve {
 
@@ -14,7 +15,7 @@ double equivalentStiffness(bool concentrated, double h, double d) {
 
 void checkStiffnessMaterials(CheckSequence& checks, const FormState& s) {
     const double fck = s.number("Text1"), ecs = s.number("Text2");
-    const double eref = 18275 * std::cbrt((fck + 8) / 10);
+    const double eref = 18275 * portable::cbrt((fck + 8) / 10);
     checks.warnIf(fck < 20, msg::kLowFck)
         .warnIf(fck > 90, msg::kHighFck, "Text1")
         .warnIf(ecs <= 0, msg::kPositiveEcs, "Text2")

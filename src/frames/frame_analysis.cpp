@@ -3,6 +3,8 @@
 #include <cmath>
 #include <numbers>
 
+#include "numeric/elementary.h"
+
 namespace morve {
 
 namespace {
@@ -77,19 +79,19 @@ PanelStrut panelStrut(const FrameModel& m, const Infill& infill, int storey, int
         fault = PanelFault::Slender;
         return s;
     }
-    const double d = std::hypot(s.h, s.l);
-    s.theta = std::atan(s.h / s.l);
-    const double b = infill.ea * infill.t * std::sin(2 * s.theta);
-    const double lh = std::pow(b / (4 * m.e * ic * s.h), 0.25);
+    const double d = portable::hypot(s.h, s.l);
+    s.theta = portable::atan(s.h / s.l);
+    const double b = infill.ea * infill.t * portable::sin(2 * s.theta);
+    const double lh = portable::pow(b / (4 * m.e * ic * s.h), 0.25);
     const double ah = std::min(std::numbers::pi / (2 * lh), s.h);
-    const double ll = std::pow(b / (4 * m.e * ib * s.l), 0.25);
+    const double ll = portable::pow(b / (4 * m.e * ib * s.l), 0.25);
     s.al = std::min(std::numbers::pi / ll, s.l);
     s.w = std::min(ah / 2, 0.15 * d);
     return s;
 }
 
 bool strutCrushes(const PanelStrut& s, const Infill& infill, double n) {
-    const double r = 1 - std::pow(s.h / (40 * infill.t), 3);
+    const double r = 1 - portable::pow(s.h / (40 * infill.t), 3);
     return n > r * infill.t * s.w * (infill.fk / 2);
 }
 
@@ -97,8 +99,8 @@ bool strutShears(const PanelStrut& s, const Infill& infill, double n) {
     struct Law { double base, limit; };
     static constexpr Law laws[] = {{0.1, 1.0}, {0.15, 1.4}, {0.35, 1.7}};
     const Law& law = laws[static_cast<int>(infill.mortar)];
-    const double tau = n * std::cos(s.theta) / (s.l * infill.t);                       // kN/m2
-    const double sigma = n * std::sin(s.theta) * s.al / (s.l * s.l * infill.t) / 1000;  // MPa
+    const double tau = n * portable::cos(s.theta) / (s.l * infill.t);                       // kN/m2
+    const double sigma = n * portable::sin(s.theta) * s.al / (s.l * s.l * infill.t) / 1000;  // MPa
     const double fv = std::min(law.base + 0.5 * sigma, law.limit);
     return tau > fv / 2 * 1000;
 }

@@ -6,6 +6,7 @@
 #include "app/numbers.h"
 #include "basis/messages.h"
 #include "frames/frame_texts.h"
+#include "numeric/elementary.h"
 
 namespace morve {
 
@@ -72,7 +73,7 @@ ScreenDecl beamScreen(const FrameScreens& f) {
 
 void checkFrameCounts(CheckSequence& checks, const FormState& s, const std::string& highFck) {
     const double fck = s.number("Text1"), ecs = s.number("Text2");
-    const double eref = 18275 * std::cbrt((fck + 8) / 10);
+    const double eref = 18275 * portable::cbrt((fck + 8) / 10);
     const int p = columnCount(s), v = levelCount(s);
     checks.warnIf(fck < 20, msg::kLowFck)
         .warnIf(fck > 90, highFck, "Text1")

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "numeric/elementary.h"
+
 namespace morve {
 
 namespace {
@@ -84,7 +86,7 @@ ElementStiffness FrameBarLocal(const FrameBar& bar, double l) {
 }
 
 ElementStiffness FrameBarStiffness(const FrameBar& bar, Point a, Point b) {
-    const double dx = b.x - a.x, dy = b.y - a.y, l = std::hypot(dx, dy);
+    const double dx = b.x - a.x, dy = b.y - a.y, l = portable::hypot(dx, dy);
     const double c = dx / l, s = dy / l;
     const ElementStiffness local = FrameBarLocal(bar, l);
     // Local from global at each end: u = c X + s Y, v = -s X + c Y, theta = theta.
@@ -109,7 +111,7 @@ ElementStiffness FrameBarStiffness(const FrameBar& bar, Point a, Point b) {
 
 BarEnds barEndForces(const FrameModel& model, const FrameBar& bar, const std::vector<double>& u) {
     const Point a = model.position(bar.a), b = model.position(bar.b);
-    const double dx = b.x - a.x, dy = b.y - a.y, l = std::hypot(dx, dy);
+    const double dx = b.x - a.x, dy = b.y - a.y, l = portable::hypot(dx, dy);
     const double c = dx / l, s = dy / l;
     double d[6];
     for (int e = 0; e < 2; ++e) {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "numeric/elementary.h"
+
 namespace morve {
 
 namespace {
@@ -54,8 +56,8 @@ DragReading readChart(const DragChart& chart, double l1OverL2, double hOverL1) {
     };
     if (!within(l1OverL2, 0.25, 4)) return {DragStatus::FacesOutside, 0};
     if (!within(hOverL1, 0.5, chart.topHeight)) return {DragStatus::HeightOutside, 0};
-    const double u = std::log(l1OverL2) / std::log(4.0);
-    const double v = 2 * std::log(hOverL1 / 0.5) / std::log(chart.topHeight / 0.5) - 1;
+    const double u = portable::log(l1OverL2) / portable::log(4.0);
+    const double v = 2 * portable::log(hOverL1 / 0.5) / portable::log(chart.topHeight / 0.5) - 1;
     double ca = 0;
     for (int i = 6; i >= 0; --i) {
         double row = 0;
@@ -85,7 +87,7 @@ std::optional<RoughnessParameters> roughnessParameters(const std::string& catego
 
 double windPressure(double vo, double s1, double s3, const RoughnessParameters& r, double z) {
     const double v10 = vo * s1 * s3 * r.b * r.fr;
-    return 0.613 * v10 * v10 * std::pow(z / 10, 2 * r.p);
+    return 0.613 * v10 * v10 * portable::pow(z / 10, 2 * r.p);
 }
 
 DragReading DragLowTurbulence(double l1OverL2, double hOverL1) { return readChart(kLow, l1OverL2, hOverL1); }

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "numeric/band.h"
+#include "numeric/elementary.h"
 
 namespace morve {
 
@@ -17,7 +18,7 @@ double radians(double degrees) { return degrees * 3.141592654 / 180; }
 std::array<double, 2> direction(double degrees) {
     if (degrees == 0) return {1, 0};
     if (degrees == 90) return {0, 1};
-    return {std::cos(radians(degrees)), std::sin(radians(degrees))};
+    return {portable::cos(radians(degrees)), portable::sin(radians(degrees))};
 }
 
 std::array<double, 3> row(const BracingPanel& p) {
@@ -29,8 +30,8 @@ std::array<double, 3> row(const BracingPanel& p) {
 
 FloorLoad floorWindLoad(const FloorWind& w) {
     const double a = radians(w.angle);
-    double fx = w.cax * w.q * w.b * w.storey * std::cos(a) * std::cos(a) / 1000;
-    double fy = w.cay * w.q * w.a * w.storey * std::sin(a) * std::sin(a) / 1000;
+    double fx = w.cax * w.q * w.b * w.storey * portable::cos(a) * portable::cos(a) / 1000;
+    double fy = w.cay * w.q * w.a * w.storey * portable::sin(a) * portable::sin(a) / 1000;
     // The squares lose the sense of the wind: each quadrant gives it back.
     if (w.angle > 90 && w.angle <= 180) fx = -fx;
     else if (w.angle > 180 && w.angle <= 270) fx = -fx, fy = -fy;

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "basis/materials.h"
+#include "numeric/elementary.h"
 
 namespace morve {
 
@@ -89,7 +90,7 @@ ServiceResults serviceAnalysis(const ServiceSection& s, bool tee, const ServiceM
     const double i2 = b * d * d * d * two.ik;
     double ieq = gross.inertia;
     if (cracks) {
-        const double r3 = std::pow(r.mr / r.ma, 3);
+        const double r3 = portable::pow(r.mr / r.ma, 3);
         ieq = std::min(gross.inertia, r3 * gross.inertia + (1 - r3) * i2);
     }
     const double rhoc = s.asc / (b * d);
@@ -101,17 +102,17 @@ ServiceResults serviceAnalysis(const ServiceSection& s, bool tee, const ServiceM
         r.bilinear = (1 - zeta) * midspanDeflection(chiOne, l) + zeta * midspanDeflection(chiTwo, l);
 
         const double wc = midspanDeflection(curvatures(m, mat.ecs * b * h * h * h / 12, 1, 0), l);
-        const double eta = 0.09547 * std::pow(s.as / (b * d), -0.71186);
+        const double eta = 0.09547 * portable::pow(s.as / (b * d), -0.71186);
         const int unrestrained = (loads.xa == 0) + (loads.xb == 0);
         const double ks = unrestrained == 2 ? 1.0 : unrestrained == 1 ? 0.7 : 0.5;
-        r.practical = (1 - 20 * rhoc) * eta * std::pow(h / d, 3) * wc +
+        r.practical = (1 - 20 * rhoc) * eta * portable::pow(h / d, 3) * wc +
                       ks * two.kEps * mat.epsCs * l * l / (8 * d);
     }
 
     // Station by station, a hogging or uncracked station keeping its state I curvature.
     std::vector<double> chi(m.size());
     for (std::size_t i = 0; i < m.size(); ++i) {
-        const double zeta = m[i] <= r.mr ? 0 : 1 - 0.5 * std::pow(r.mr / m[i], 2);
+        const double zeta = m[i] <= r.mr ? 0 : 1 - 0.5 * portable::pow(r.mr / m[i], 2);
         chi[i] = (1 - zeta) * chiOne[i] + zeta * chiTwo[i];
     }
     r.ec2 = midspanDeflection(chi, l);

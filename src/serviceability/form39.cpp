@@ -7,6 +7,7 @@
 #include "basis/checks.h"
 #include "basis/messages.h"
 #include "basis/start_values.h"
+#include "numeric/elementary.h"
 #include "serviceability/deflection.h"
 
 namespace morve {
@@ -253,7 +254,7 @@ Outcome Form39::calculate(FormState& s, Prompter& prompter) const {
         .warnIf(nPoint > kMaxLoads, "O número máximo de pontos de carga concentrada é igual a 20.", "Text8")
         .warnIf(nUniform > kMaxLoads, "O número máximo de segmentos de carga distribuída é igual a 20.", "Text7");
     checkConcreteRange(checks, mat.fck, "Text1");
-    const double modulus = 18275 * std::cbrt((mat.fck + 8) / 10);
+    const double modulus = 18275 * portable::cbrt((mat.fck + 8) / 10);
     checks.warnIf(mat.ecs <= 0, msg::kPositiveEcs, "Text2")
         .askIf(mat.ecs < 0.7 * modulus || mat.ecs > 1.3 * modulus,
                msg::kEcsRange, "Text2")

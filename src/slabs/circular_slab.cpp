@@ -4,6 +4,7 @@
 
 #include "app/module.h"
 #include "app/numbers.h"
+#include "numeric/elementary.h"
 #include "reports/report_writer.h"
 #include "slabs/slab_basis.h"
 
@@ -61,7 +62,7 @@ public:
         const double nu = kSlabPoisson, sq = l.p * radius * radius / 16;
         const double centre = (fixed ? 1 + nu : 3 + nu) * sq;
         // The simply supported plate deflects (5 + nu) / (1 + nu) times as much as the fixed one.
-        const double w0 = l.pqp * std::pow(radius, 4) / (64 * l.d) * (fixed ? 1 : (5 + nu) / (1 + nu));
+        const double w0 = l.pqp * portable::pow(radius, 4) / (64 * l.d) * (fixed ? 1 : (5 + nu) / (1 + nu));
         writeResult(s, "Form24e.Text1", longTermMm(w0, l));
         writeResult(s, "Form24e.Text2", admissibleMm(2 * radius));
         writeResult(s, "Form24e.Text3", centre);

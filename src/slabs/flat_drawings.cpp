@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "app/numbers.h"
+#include "numeric/elementary.h"
 #include "slabs/flat_slab.h"
 
 namespace morve {
@@ -58,7 +59,7 @@ Drawing flatSurfaceDrawing(const FlatResults& r, FlatQuantity quantity, double l
     const double ux = span > 0 ? lx / span : 1, vy = span > 0 ? ly / span : 1;
     const double largest = std::max(std::abs(f.max), std::abs(f.min));
     const double rise = largest > 0 ? 0.35 * style.upwards / largest : 0;
-    const double c30 = std::cos(kPi / 6), s30 = std::sin(kPi / 6), c45 = std::cos(kPi / 4);
+    const double c30 = portable::cos(kPi / 6), s30 = portable::sin(kPi / 6), c45 = portable::cos(kPi / 4);
     auto raw = [&](double u, double v, double value) {
         return Point{u * c30 + v * c45, u * s30 - v * c45 - value * rise};
     };

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "numeric/band.h"
+#include "numeric/elementary.h"
 #include "slabs/slab_basis.h"
 
 namespace morve {
@@ -17,7 +18,7 @@ using Terms = std::array<std::array<double, kT>, kT>;    // [m-1][n-1]
 using Table = std::array<std::array<double, kT>, kS>;    // [sample][m-1]
 
 // sin(t) / t, 1 at t = 0.
-double sinc(double t) { return t == 0 ? 1 : std::sin(t) / t; }
+double sinc(double t) { return t == 0 ? 1 : portable::sin(t) / t; }
 
 // How a column's section weights each term: the sine at its centre times the mean
 // of the sine over its width, in each direction.
@@ -29,8 +30,8 @@ ColumnShape shapeOf(const FlatColumn& c, double a, double b) {
     ColumnShape s;
     for (int k = 1; k <= kT; ++k) {
         const double am = k * kPi / a, bn = k * kPi / b;
-        s.ex[k - 1] = std::sin(am * c.x) * sinc(am * c.hx / 2);
-        s.ey[k - 1] = std::sin(bn * c.y) * sinc(bn * c.hy / 2);
+        s.ex[k - 1] = portable::sin(am * c.x) * sinc(am * c.hx / 2);
+        s.ey[k - 1] = portable::sin(bn * c.y) * sinc(bn * c.hy / 2);
     }
     return s;
 }
@@ -134,8 +135,8 @@ FlatResults analyseFlatSlab(const FlatSlab& slab) {
     for (int i = 0; i < kS; ++i)
         for (int m = 1; m <= kT; ++m) {
             const double tx = m * kPi * i / (kS - 1);
-            sx[i][m - 1] = sy[i][m - 1] = std::sin(tx);
-            cx[i][m - 1] = cy[i][m - 1] = std::cos(tx);
+            sx[i][m - 1] = sy[i][m - 1] = portable::sin(tx);
+            cx[i][m - 1] = cy[i][m - 1] = portable::cos(tx);
         }
     // The edge samples sit exactly on the supports.
     for (int m = 0; m < kT; ++m) sx[0][m] = sx[kS - 1][m] = sy[0][m] = sy[kS - 1][m] = 0;

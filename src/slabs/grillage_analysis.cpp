@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "numeric/band.h"
+#include "numeric/elementary.h"
 #include "slabs/slab_basis.h"
 
 namespace morve {
@@ -34,7 +35,7 @@ NodeAxes sideAxes(Point t) {
 
 double barLength(const GrillageMesh& m, const MeshBar& b) {
     const Point a = m.nodes[b.from].at, c = m.nodes[b.to].at;
-    return std::hypot(c.x - a.x, c.y - a.y);
+    return portable::hypot(c.x - a.x, c.y - a.y);
 }
 
 // The strip a bar stands for is one cell wide across it.

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "app/numbers.h"
+#include "numeric/elementary.h"
 #include "slabs/polygon_form24f.h"
 
 namespace morve {
@@ -28,7 +29,7 @@ Drawing momentDiagrams(const PolygonCase& c, const GrillageMesh& mesh, const Gri
     for (std::size_t e = 0; e < mesh.bars.size(); ++e) {
         const MeshBar& b = mesh.bars[e];
         const Point p = mesh.nodes[b.from].at, q = mesh.nodes[b.to].at;
-        const double l = std::hypot(q.x - p.x, q.y - p.y);
+        const double l = portable::hypot(q.x - p.x, q.y - p.y);
         for (int k = 0; k <= kSamples; ++k) largest = std::max(largest, std::abs(momentAt(r.bars[e], l, double(k) / kSamples)));
     }
     // The greatest moment reaches nine tenths of a cell.
@@ -36,7 +37,7 @@ Drawing momentDiagrams(const PolygonCase& c, const GrillageMesh& mesh, const Gri
     for (std::size_t e = 0; e < mesh.bars.size(); ++e) {
         const MeshBar& b = mesh.bars[e];
         const Point p = s.map(mesh.nodes[b.from].at), q = s.map(mesh.nodes[b.to].at);
-        const double l = std::hypot(mesh.nodes[b.to].at.x - mesh.nodes[b.from].at.x,
+        const double l = portable::hypot(mesh.nodes[b.to].at.x - mesh.nodes[b.from].at.x,
                                     mesh.nodes[b.to].at.y - mesh.nodes[b.from].at.y);
         d.line(p, q, colours::grey, 1);
         // Positive moments below a row and right of a column; negative ones on the

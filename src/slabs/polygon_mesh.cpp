@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "numeric/elementary.h"
+
 namespace morve {
 
 namespace {
@@ -147,7 +149,7 @@ double shortestBar(const GrillageMesh& m) {
     double shortest = 1e300;
     for (const MeshBar& b : m.bars) {
         const Point a = m.nodes[b.from].at, c = m.nodes[b.to].at;
-        shortest = std::min(shortest, std::hypot(c.x - a.x, c.y - a.y));
+        shortest = std::min(shortest, portable::hypot(c.x - a.x, c.y - a.y));
     }
     return shortest;
 }
@@ -165,7 +167,7 @@ double polygonArea(const std::vector<Point>& v) {
 
 double sideLength(const SlabPolygon& p, int side) {
     const Point a = p.vertex(side), b = p.vertex(side + 1);
-    return std::hypot(b.x - a.x, b.y - a.y);
+    return portable::hypot(b.x - a.x, b.y - a.y);
 }
 
 MeshResult generateMesh(const SlabPolygon& p, int divisions) {
@@ -251,7 +253,7 @@ void drawOutline(Drawing& d, const SlabPolygon& p, const OutlineScale& s) {
             d.line(a, b, colours::black, t == SideSupport::Fixed ? 4 : 2);
             continue;
         }
-        const double len = std::hypot(b.x - a.x, b.y - a.y), dash = 40;
+        const double len = portable::hypot(b.x - a.x, b.y - a.y), dash = 40;
         for (double u = 0; u < len; u += 2 * dash) {
             const double e = std::min(len, u + dash);
             d.line({a.x + (b.x - a.x) * u / len, a.y + (b.y - a.y) * u / len},

@@ -4,6 +4,7 @@
 
 #include "app/numbers.h"
 #include "basis/messages.h"
+#include "numeric/elementary.h"
 #include "reports/report_writer.h"
 
 namespace morve {
@@ -122,7 +123,7 @@ Drawing supportDrawing(const SupportPattern& p) {
                           {p.y0, {0, 0}, {w, 0}, {0, -1}},
                           {p.y1, {0, h}, {w, h}, {0, 1}}};
     for (const Side& s : sides) {
-        const double len = std::hypot(s.b.x - s.a.x, s.b.y - s.a.y);
+        const double len = portable::hypot(s.b.x - s.a.x, s.b.y - s.a.y);
         const Point t{(s.b.x - s.a.x) / len, (s.b.y - s.a.y) / len};
         if (s.edge == SlabEdge::Free) {
             for (double u = 0; u < len; u += 6)

@@ -7,6 +7,7 @@
 #include "basis/design_basis.h"
 #include "basis/messages.h"
 #include "basis/start_values.h"
+#include "numeric/elementary.h"
 #include "reports/report_writer.h"
 
 namespace morve {
@@ -99,7 +100,7 @@ Outcome shear(FormState& s, Prompter& prompter) {
     if (checks.stopped()) return checks.outcome();
 
     const double twd = vk * gamaf / (100 * d) * 10;  // MPa
-    const double tref = fck <= 50 ? 0.0375 * std::pow(fck, 2.0 / 3.0) : 0.265 * std::log(1 + 0.11 * fck);
+    const double tref = fck <= 50 ? 0.0375 * portable::pow(fck, 2.0 / 3.0) : 0.265 * portable::log(1 + 0.11 * fck);
     const double rho = std::min(as / (100 * d), 0.02);
     // Less than half the bottom steel reaching the support gives no size effect.
     const double k = s.text("List1") == "menor que 50%" ? 1.0 : std::max(1.6 - d / 100, 1.0);

@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <cmath>
 
+#include "numeric/elementary.h"
+
 namespace morve {
 
 Point isometric(const Vec3& p) {
-    const double c = std::cos(3.14159265358979323846 / 6), s = 0.5;
+    const double c = portable::cos(3.14159265358979323846 / 6), s = 0.5;
     // The drawing's y grows downward.
     return {(p[1] - p[0]) * c, -(p[2] + (p[0] + p[1]) * s)};
 }

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "numeric/elementary.h"
+
 namespace morve {
 
 namespace {
@@ -29,11 +31,11 @@ EndForces sectionForces(const Helix& h, const SpaceModel& m, const SpaceResults&
 }  // namespace
 
 Vec3 helixPoint(const Helix& h, double angle) {
-    return {h.radius * std::cos(angle), side(h) * h.radius * std::sin(angle), pitch(h) * (angle + half(h))};
+    return {h.radius * portable::cos(angle), side(h) * h.radius * portable::sin(angle), pitch(h) * (angle + half(h))};
 }
 
 Axes helixSection(const Helix& h, double angle) {
-    const Vec3 x = unit({-h.radius * std::sin(angle), side(h) * h.radius * std::cos(angle), pitch(h)});
+    const Vec3 x = unit({-h.radius * portable::sin(angle), side(h) * h.radius * portable::cos(angle), pitch(h)});
     const Vec3 down{0, 0, -1};
     const Vec3 z = unit(down - dot(down, x) * x);
     return {x, cross(z, x), z};

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "numeric/band.h"
+#include "numeric/elementary.h"
 
 namespace morve {
 
@@ -97,8 +98,8 @@ double rectangleTorsionConstant(double b, double h) {
     // odd n leave nothing in the digits of a double.
     constexpr double pi = 3.14159265358979323846;
     double sum = 0;
-    for (int n = 1; n <= 31; n += 2) sum += std::tanh(n * pi * big / (2 * small)) / std::pow(n, 5);
-    return big * small * small * small / 3 * (1 - 192 / std::pow(pi, 5) * small / big * sum);
+    for (int n = 1; n <= 31; n += 2) sum += portable::tanh(n * pi * big / (2 * small)) / portable::pow(n, 5);
+    return big * small * small * small / 3 * (1 - 192 / portable::pow(pi, 5) * small / big * sum);
 }
 
 BarSection rectangleSection(double e, double nu, double b, double h) {
