@@ -2,7 +2,10 @@
 # MORVE_WEB_OUTPUT ($(BUILD)/web as `make web` lays it out). One entry point,
 # morve_call (src/web/web_call.cpp), takes a JSON request and gives a JSON answer.
 set(MORVE_WEB_OUTPUT ${CMAKE_BINARY_DIR}/web CACHE PATH "Folder of morve.js and morve.wasm")
-# The optimisation of the core and of the link (wasm-opt).
+# The optimisation of the core and of the link (wasm-opt). -O2: with Debian's
+# emscripten 3.1.6 and binaryen 108 an -Os link fails in wasm-opt, and code compiled
+# with -Os or -Oz stops with "memory access out of bounds" in a Form39 check; the
+# -O2 build is well within the weight the page may have.
 set(MORVE_WEB_OPTIMISE -O2 CACHE STRING "Optimisation of the web build")
 
 # The desktop's calculations throw and catch (bad input, a case refused): the
