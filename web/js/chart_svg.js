@@ -5,13 +5,13 @@
 import { DRAWING_FACE, cssFont, fontMetrics, textWidth } from './text_measure.js';
 import { px, rgb, svgElement } from './drawing_svg.js';
 
-const TITLE_FONT = cssFont(14, DRAWING_FACE, true);
+const TITLE_FONT = cssFont(13, DRAWING_FACE);
 const AXIS_TITLE_FONT = cssFont(12, DRAWING_FACE, true);
-const TICK_FONT = cssFont(11, DRAWING_FACE);
-const LEGEND_FONT = cssFont(12, DRAWING_FACE);
+const TICK_FONT = cssFont(12, DRAWING_FACE);
+const LEGEND_FONT = cssFont(13, DRAWING_FACE);
 const MARGIN = 10;
 const GRID_COLOUR = 'rgb(224,224,224)';
-const AXIS_COLOUR = 'rgb(134,134,134)';
+const AXIS_COLOUR = 'rgb(208,208,208)';
 const LABEL_COLOUR = 'rgb(64,64,64)';
 let clipCount = 0;
 
@@ -67,7 +67,7 @@ function legend(svg, series, top, width) {
     const colour = rgb(s.colour);
     svg.appendChild(s.scatter === false
       ? svgElement('line', { x1: px(x), y1: px(top + height / 2), x2: px(x + 12), y2: px(top + height / 2), stroke: colour, 'stroke-width': 2 })
-      : svgElement('circle', { cx: px(x + 6), cy: px(top + height / 2), r: 5, fill: colour }));
+      : svgElement('rect', { x: px(x + 2), y: px(top + height / 2 - 4), width: 8, height: 8, fill: colour, stroke: 'rgb(64,64,64)', 'stroke-width': 1 }));
     text(svg, String(s.name ?? ''), x + 18, top + ascent, LEGEND_FONT);
     x += w;
   }
@@ -98,7 +98,7 @@ export function chartToSvg(chart, widthPx, heightPx) {
   let top = MARGIN;
   if (data.title) {
     const m = fontMetrics(TITLE_FONT);
-    text(svg, String(data.title), width / 2, top + m.ascent, TITLE_FONT, { 'text-anchor': 'middle', fill: 'black' });
+    text(svg, String(data.title), width / 2, top + m.ascent, TITLE_FONT, { 'text-anchor': 'middle' });
     top += m.height + 6;
   }
   if (series.length > 1) top += legend(svg, series, top, width);
@@ -123,16 +123,17 @@ export function chartToSvg(chart, widthPx, heightPx) {
   for (const v of xTicks) {
     const x = sx(v);
     svg.appendChild(svgElement('line', { x1: px(x), y1: px(plot.top), x2: px(x), y2: px(plot.bottom), stroke: GRID_COLOUR, 'stroke-width': 1 }));
-    svg.appendChild(svgElement('line', { x1: px(x), y1: px(plot.bottom), x2: px(x), y2: px(plot.bottom + 5), stroke: AXIS_COLOUR, 'stroke-width': 1 }));
+    svg.appendChild(svgElement('line', { x1: px(x), y1: px(plot.bottom), x2: px(x), y2: px(plot.bottom + 5), stroke: GRID_COLOUR, 'stroke-width': 1 }));
     text(svg, formatG(v), x, plot.bottom + 6 + tick.ascent, TICK_FONT, { 'text-anchor': 'middle' });
   }
   for (const v of yTicks) {
     const y = sy(v);
     svg.appendChild(svgElement('line', { x1: px(plot.left), y1: px(y), x2: px(plot.right), y2: px(y), stroke: GRID_COLOUR, 'stroke-width': 1 }));
-    svg.appendChild(svgElement('line', { x1: px(plot.left - 5), y1: px(y), x2: px(plot.left), y2: px(y), stroke: AXIS_COLOUR, 'stroke-width': 1 }));
+    svg.appendChild(svgElement('line', { x1: px(plot.left - 5), y1: px(y), x2: px(plot.left), y2: px(y), stroke: GRID_COLOUR, 'stroke-width': 1 }));
     text(svg, formatG(v), plot.left - 7, y + (tick.ascent - tick.descent) / 2, TICK_FONT, { 'text-anchor': 'end' });
   }
-  svg.appendChild(svgElement('rect', { x: px(plot.left), y: px(plot.top), width: px(plot.right - plot.left), height: px(plot.bottom - plot.top), fill: 'none', stroke: AXIS_COLOUR, 'stroke-width': 1 }));
+  // The axes' own lines, at the bottom and the left of the plot, as light as the grid.
+  svg.appendChild(svgElement('polyline', { points: `${px(plot.left)},${px(plot.top)} ${px(plot.left)},${px(plot.bottom)} ${px(plot.right)},${px(plot.bottom)}`, fill: 'none', stroke: AXIS_COLOUR, 'stroke-width': 1 }));
   if (data.xTitle)
     text(svg, String(data.xTitle), (plot.left + plot.right) / 2, height - MARGIN - axisTitle.descent, AXIS_TITLE_FONT, { 'text-anchor': 'middle' });
   if (data.yTitle) {

@@ -1,6 +1,6 @@
 // One control of a screen built from its declaration: the element the user
 // works (carrying data-name, the control's qualified name), the caption before
-// it and the unit after it. Lists and options answer a pick at once, as the
+// it and the unit after it. Lists and options answer a click at once, as the
 // desktop does: the click reaches the module as a command of the control's name.
 import { setCaption } from './captions.js';
 import { guardInput } from './key_filters.js';
@@ -34,7 +34,11 @@ function list(decl, onCommand) {
   const select = document.createElement('select');
   const rows = decl.height > 0 ? decl.height : Math.min((decl.items || []).length, 4);
   select.size = Math.max(2, rows);
-  select.addEventListener('change', () => onCommand(decl.name));
+  // A click on an item reaches the module, as the desktop's list answers a click;
+  // the arrow keys only move the selection, which goes with the next press.
+  select.addEventListener('click', (event) => {
+    if (event.target instanceof HTMLOptionElement && !select.disabled) onCommand(decl.name);
+  });
   return select;
 }
 

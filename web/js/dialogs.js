@@ -2,6 +2,7 @@
 // its text and the buttons of its kind, the default button with the focus
 // (No for a Yes/No question, as the desktop asks it).
 import { setCaption } from './captions.js';
+import { shellText } from './shell_texts.js';
 
 const BUTTONS = {
   warning: [['ok', 'OK']],
@@ -74,6 +75,7 @@ export function showMessage({ kind, title, text }) {
   return turn;
 }
 
-export function warn(text, title = 'MORVE') {
+// A warning with the title of the program's boxes.
+export function warn(text, title = shellText('boxTitle')) {
   return showMessage({ kind: 'warning', title, text });
 }

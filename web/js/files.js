@@ -142,6 +142,12 @@ export async function savePicture(drawing, widthPx = 640, heightPx = 480) {
   return true;
 }
 
+// The page as it was before a picture was put alone on paper.
+export function clearPicturePrint() {
+  document.body.classList.remove('picture-printing');
+  document.getElementById('picture-print')?.remove();
+}
+
 // The drawing on paper: across the page's width at the top, in its own
 // proportions, texts and lines at their screen size, alone on the page.
 export function printPicture(drawing) {
@@ -151,17 +157,11 @@ export function printPicture(drawing) {
   const page = { width: 19 * cm, height: 27.7 * cm }; // A4 inside margins of one centimetre
   const w = drawing.right - drawing.left, h = drawing.bottom - drawing.top;
   const height = w > 0 && h > 0 ? Math.min(page.width * (h / w), page.height) : page.height;
-  document.getElementById('picture-print')?.remove();
+  clearPicturePrint();
   const holder = element('div', { id: 'picture-print' });
-  const svg = drawingToSvg(drawing, page.width, height, { frame: false });
-  holder.appendChild(svg);
+  holder.appendChild(drawingToSvg(drawing, page.width, height, { frame: false }));
   document.body.appendChild(holder);
   document.body.classList.add('picture-printing');
-  const done = () => {
-    document.body.classList.remove('picture-printing');
-    holder.remove();
-    window.removeEventListener('afterprint', done);
-  };
-  window.addEventListener('afterprint', done);
+  window.addEventListener('afterprint', clearPicturePrint, { once: true });
   window.print();
 }

@@ -64,6 +64,8 @@ function addRows(table, grid, rows) {
     if (grid.firstColumnLocked && columns > 0) tr.cells[0].firstChild.value = String(r);
     body.append(tr);
   }
+  // An empty table still takes the focus, so that a block can be pasted on it.
+  table.tabIndex = rowCount(table) === 0 && !grid.results ? 0 : -1;
 }
 
 // The rows of a table as the state gives them, header first.
@@ -156,6 +158,15 @@ function onKey(table, event) {
 
 function paste(table, event) {
   const input = event.target;
+  // A table without rows takes a block pasted on it from its first cell on, as
+  // the desktop's does.
+  if (input === table && rowCount(table) === 0) {
+    const text = (event.clipboardData || window.clipboardData).getData('text').replace(/\r/g, '');
+    event.preventDefault();
+    const { decl } = grids.get(table);
+    if (!decl.results && text) pasteBlock(table, decl, text, 1, 0);
+    return;
+  }
   if (!(input instanceof HTMLInputElement) || !input.dataset.row || input.readOnly && !input.classList.contains('locked')) return;
   const text = (event.clipboardData || window.clipboardData).getData('text').replace(/\r/g, '');
   const { decl } = grids.get(table);

@@ -20,7 +20,7 @@ export async function showHelp(pageName) {
   panel.body.appendChild(frame);
   let found = false;
   try {
-    found = (await fetch(url, { method: 'HEAD', cache: 'no-cache' })).ok;
+    found = (await fetch(url)).ok;
   } catch {
     found = false;
   }

@@ -34,11 +34,19 @@ export function showHelpList(helpList, showPage) {
   list.size = 16;
   list.dataset.name = 'Form0Help.List1';
   for (const row of helpList) list.append(new Option(row.text, row.page));
+  // The list stays open beside the page it shows, the menu asleep until it closes.
   const show = () => {
-    if (list.selectedIndex < 0) return;
-    dialog.close();
-    showPage(list.value);
+    if (list.selectedIndex >= 0) showPage(list.value);
   };
+  const menu = document.getElementById('menu');
+  if (menu) menu.inert = true;
+  dialog.addEventListener('close', () => {
+    if (menu) menu.inert = false;
+    document.getElementById('help-view')?.querySelector('.panel-bar button')?.click();
+  });
+  dialog.addEventListener('keydown', (event) => {
+    if (event.key === 'Escape') dialog.close();
+  });
   list.addEventListener('dblclick', show);
   const row = document.createElement('div');
   row.className = 'message-buttons';
@@ -46,7 +54,7 @@ export function showHelpList(helpList, showPage) {
     button(texts.helpListCancel || '', () => dialog.close(), 'Form0Help.Command3'));
   dialog.append(label, list, row);
   document.body.append(dialog);
-  dialog.showModal();
+  dialog.show();
   list.focus();
 }
 

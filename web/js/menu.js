@@ -3,6 +3,7 @@
 // a button of its module (disabled where the module is not registered), and the
 // "Ajuda" menu last. A menu opens on a click, or on hover once one is open.
 import { setCaption } from './captions.js';
+import { element } from './panels.js';
 
 function closeAll(bar) {
   for (const open of bar.querySelectorAll('.menu.open')) open.classList.remove('open');
@@ -178,17 +179,11 @@ export function buildMenu(catalogue, { onModule, onHelp, active }) {
 
 // The picture of the menu window: the program's name, its version and what it is for.
 export function buildMenuPicture(texts) {
-  const picture = document.createElement('div');
-  picture.className = 'menu-picture';
-  const name = document.createElement('div');
-  name.className = 'menu-name';
-  name.textContent = 'MORVE';
-  const version = document.createElement('div');
-  version.className = 'menu-version';
-  version.textContent = texts.version || '';
-  const purpose = document.createElement('div');
-  purpose.className = 'menu-purpose';
-  purpose.textContent = texts.purpose || '';
-  picture.append(name, version, purpose);
-  return picture;
+  // A beam section with its bars, the program's emblem, in the lower right corner.
+  const emblem = element('div', { className: 'menu-emblem' });
+  for (const row of ['top', 'bottom']) for (let i = 0; i < 3; i++) emblem.append(element('span', { className: `bar ${row}` }));
+  return element('div', { className: 'menu-picture' },
+    element('div', { className: 'menu-name', text: 'MORVE' }),
+    element('div', { className: 'menu-version', text: texts.version || '' }),
+    element('div', { className: 'menu-purpose', text: texts.purpose || '' }), emblem);
 }

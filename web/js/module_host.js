@@ -6,7 +6,7 @@
 // module says.
 import { buildScreen } from './screens.js';
 import { applyState, gatherInputs } from './state.js';
-import { showMessage } from './dialogs.js';
+import { showMessage, warn } from './dialogs.js';
 import { pictureModule } from './pictures.js';
 import { shellText } from './shell_texts.js';
 
@@ -88,7 +88,7 @@ export class ModuleHost {
         const answer = await this.call({ op: 'press', session: this.session, command, inputs, answers });
         if (answer.error) {
           this.showStatus(command, false);
-          await showMessage({ kind: 'warning', title: 'MORVE', text: answer.error });
+          await warn(answer.error);
           return;
         }
         this.show(answer.state);
@@ -155,7 +155,7 @@ export class ModuleHost {
         break;
       case 'report':
         if (pictures.report) pictures.report.showReport({ call: this.call, session: this.session, key: target,
-          inputs: this.inputs(), caller: this.key });
+          inputs: this.inputs(), caller: document.activeElement });
         break;
       case 'savePicture':
       case 'printPicture': {
@@ -221,7 +221,7 @@ export class ModuleHost {
       case 'Início': this.shell.toStart(); break;
       case 'Imprimir':
         if (this.info.printKey && pictures.report) pictures.report.showReport({ call: this.call, session: this.session,
-          key: this.info.printKey, inputs: this.inputs(), caller: this.key });
+          key: this.info.printKey, inputs: this.inputs(), caller: document.activeElement });
         break;
       case 'Ajuda': this.showHelp(); break;
       case 'Sair':

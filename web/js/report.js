@@ -7,7 +7,7 @@
 import { paintDrawing, px, svgElement } from './drawing_svg.js';
 import { REPORT_FACE, cssFont, fontMetrics, textWidth } from './text_measure.js';
 import { element, openDialog, openPanel } from './panels.js';
-import { showMessage } from './files.js';
+import { clearPicturePrint, showMessage } from './files.js';
 
 const CM = 96 / 2.54; // CSS pixels in a centimetre, on screen and on paper
 const POINT = 96 / 72;
@@ -122,6 +122,8 @@ export async function showReport({ call, session, key, inputs, caller }) {
     await showMessage('MORVE', answer ? answer.error : '');
     return false;
   }
+  // A picture's print whose dialog never said it closed leaves the page to the report.
+  clearPicturePrint();
   document.body.classList.add('report-open');
   const panel = openPanel({
     id: 'report-view',

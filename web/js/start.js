@@ -4,6 +4,7 @@
 // the defaults chosen here. Enter is "OK" wherever the focus is.
 import { setCaption } from './captions.js';
 import { shellTexts } from './shell_texts.js';
+import { element } from './panels.js';
 
 function randomTip(tips, tip) {
   tip.textContent = tips.length ? tips[Math.floor(Math.random() * tips.length)] : shellTexts().tipsMissing || '';
@@ -11,15 +12,10 @@ function randomTip(tips, tip) {
 
 function buildDialog(startup, onConfirm) {
   const texts = shellTexts();
-  const dialog = document.createElement('dialog');
-  dialog.id = 'start';
-  const title = document.createElement('div');
-  title.className = 'message-title';
-  title.textContent = texts.windowTitle || '';
-  const body = document.createElement('div');
-  body.className = 'start-body';
-  const lists = document.createElement('div');
-  lists.className = 'start-lists';
+  const dialog = element('dialog', { id: 'start' });
+  const title = element('div', { className: 'message-title', text: texts.windowTitle || '' });
+  const body = element('div', { className: 'start-body' });
+  const lists = element('div', { className: 'start-lists' });
   const selects = [];
   (startup.lists || []).forEach((items, n) => {
     const caption = document.createElement('label');
@@ -35,14 +31,9 @@ function buildDialog(startup, onConfirm) {
     lists.append(caption, select);
     selects.push(select);
   });
-  const tipBox = document.createElement('div');
-  tipBox.className = 'tip';
-  tipBox.id = 'tip';
-  const tip = document.createElement('p');
-  tipBox.append(tip);
-  body.append(lists, tipBox);
-  const buttons = document.createElement('div');
-  buttons.className = 'message-buttons';
+  const tip = element('p');
+  body.append(lists, element('div', { className: 'tip', id: 'tip' }, tip));
+  const buttons = element('div', { className: 'message-buttons' });
   const next = document.createElement('button');
   next.type = 'button';
   next.dataset.name = 'Form0.Command2';
