@@ -54,12 +54,6 @@ export function projectFileName(typed) {
 function askFileName(title, suggested) {
   const input = element('input', { type: 'text', name: 'file-name', size: '36', autocomplete: 'off' });
   input.value = suggested || '';
-  input.addEventListener('keydown', (event) => {
-    if (event.key === 'Enter') {
-      event.preventDefault();
-      input.closest('dialog').querySelector('[data-answer="ok"]').click();
-    }
-  });
   const label = element('label', { className: 'dialog-field' }, element('span', { text: 'Nome do arquivo:' }), input);
   return openDialog({
     id: 'file-name', title, content: [label], focus: input,
