@@ -80,10 +80,11 @@ function chooseFile(accept) {
   });
 }
 
-// The file's bytes as the text the core reads: project files are UTF-8.
+// The file's bytes as the text the core reads: project files are UTF-8, and a
+// byte-order mark stays in the text, where the core sees it as the desktop does.
 async function projectText(file) {
   if (file.size > LARGEST_FILE) return '';
-  return new TextDecoder('utf-8').decode(await file.arrayBuffer());
+  return new TextDecoder('utf-8', { ignoreBOM: true }).decode(await file.arrayBuffer());
 }
 
 // "Abrir": a .mor from the user's disk into the module. The new state, or null
