@@ -65,9 +65,7 @@ function legend(svg, series, top, width) {
   let x = (width - items.reduce((sum, i) => sum + i.w, 0)) / 2;
   for (const { s, w } of items) {
     const colour = rgb(s.colour);
-    svg.appendChild(s.scatter === false
-      ? svgElement('line', { x1: px(x), y1: px(top + height / 2), x2: px(x + 12), y2: px(top + height / 2), stroke: colour, 'stroke-width': 2 })
-      : svgElement('rect', { x: px(x + 2), y: px(top + height / 2 - 4), width: 8, height: 8, fill: colour, stroke: 'rgb(64,64,64)', 'stroke-width': 1 }));
+    svg.appendChild(svgElement('rect', { x: px(x + 2), y: px(top + height / 2 - 4), width: 8, height: 8, fill: colour, stroke: 'rgb(64,64,64)', 'stroke-width': 1 }));
     text(svg, String(s.name ?? ''), x + 18, top + ascent, LEGEND_FONT);
     x += w;
   }
@@ -79,10 +77,11 @@ function seriesElements(group, s, at) {
   const colour = rgb(s.colour);
   if (s.scatter === false) {
     if (points.length > 0)
-      group.appendChild(svgElement('polyline', { points: points.map(([x, y]) => `${px(x)},${px(y)}`).join(' '), fill: 'none', stroke: colour, 'stroke-width': 2 }));
+      group.appendChild(svgElement('polyline', { points: points.map(([x, y]) => `${px(x)},${px(y)}`).join(' '), fill: 'none', stroke: colour, 'stroke-width': 1.2 }));
     return;
   }
-  const r = (Number.isFinite(s.markerSize) && s.markerSize > 0 ? s.markerSize : 6) / 2;
+  // The marker's size takes in its white rim: the coloured dot is a pixel less all round.
+  const r = Math.max(1, (Number.isFinite(s.markerSize) && s.markerSize > 0 ? s.markerSize : 6) / 2 - 1);
   for (const [x, y] of points) group.appendChild(svgElement('circle', { cx: px(x), cy: px(y), r: px(r), fill: colour }));
 }
 

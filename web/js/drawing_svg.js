@@ -11,6 +11,13 @@ const SMALLEST_DOT = 2.5; // radius of a filled bar, in screen pixels, however s
 const CONTENT_MARGIN = 6; // screen pixels kept clear round a drawing fitted to its content
 const FRAME_GAP = 4; // the picture box's border and gap, as the desktop's picture box has them
 let clipCount = 0;
+// The size each drawing was last shown at on a screen, so that a picture saved
+// from its box has the box's size, as the desktop saves it.
+const shownSizes = new WeakMap();
+
+export function shownSize(drawing) {
+  return (drawing && typeof drawing === 'object' && shownSizes.get(drawing)) || null;
+}
 
 export function svgElement(tag, attributes = {}) {
   const element = document.createElementNS(SVG_NS, tag);
@@ -176,6 +183,7 @@ export function drawingToSvg(drawing, widthPx, heightPx, { frame = true } = {}) 
   svg.classList.add('drawing');
   svg.appendChild(svgElement('rect', { x: 0, y: 0, width: px(width), height: px(height), fill: 'white' }));
   if (frame) {
+    if (drawing && typeof drawing === 'object') shownSizes.set(drawing, [width, height]);
     svg.appendChild(svgElement('rect', { x: 0.5, y: 0.5, width: px(width - 1), height: px(height - 1), fill: 'none', stroke: 'rgb(160,160,160)', 'stroke-width': 1 }));
     paintDrawing(svg, drawing, { x: FRAME_GAP, y: FRAME_GAP, width: width - 2 * FRAME_GAP, height: height - 2 * FRAME_GAP });
   } else {

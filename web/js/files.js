@@ -2,7 +2,7 @@
 // file is the desktop's own: the same text, byte for byte, so that a file moves
 // between the desktop and the browser either way. Pictures are saved as SVG and
 // printed on a page of their own.
-import { drawingToSvg } from './drawing_svg.js';
+import { drawingToSvg, shownSize } from './drawing_svg.js';
 import { download, element, ensureStylesheets, openDialog } from './panels.js';
 
 // Far above the largest case a module holds: a bigger file is no project file,
@@ -54,12 +54,6 @@ export function projectFileName(typed) {
 function askFileName(title, suggested) {
   const input = element('input', { type: 'text', name: 'file-name', size: '36', autocomplete: 'off' });
   input.value = suggested || '';
-  input.addEventListener('keydown', (event) => {
-    if (event.key === 'Enter') {
-      event.preventDefault();
-      input.closest('dialog').querySelector('[data-answer="ok"]').click();
-    }
-  });
   const label = element('label', { className: 'dialog-field' }, element('span', { text: 'Nome do arquivo:' }), input);
   return openDialog({
     id: 'file-name', title, content: [label], focus: input,
@@ -86,10 +80,11 @@ function chooseFile(accept) {
   });
 }
 
-// The file's bytes as the text the core reads: project files are UTF-8.
+// The file's bytes as the text the core reads: project files are UTF-8, and a
+// byte-order mark stays in the text, where the core sees it as the desktop does.
 async function projectText(file) {
   if (file.size > LARGEST_FILE) return '';
-  return new TextDecoder('utf-8').decode(await file.arrayBuffer());
+  return new TextDecoder('utf-8', { ignoreBOM: true }).decode(await file.arrayBuffer());
 }
 
 // "Abrir": a .mor from the user's disk into the module. The new state, or null
@@ -129,14 +124,16 @@ export async function saveProjectFile({ call, session, inputs, suggestedName }) 
   return true;
 }
 
-// The drawing as an SVG file of the picture box's size, as the desktop's
-// "Salvar desenho..." writes it: a name's dots become "_" before the extension.
+// The drawing as an SVG file of its picture box's size (as last shown; else the
+// size given), as the desktop's "Salvar desenho..." writes it: a name's dots
+// become "_" before the extension.
 export async function savePicture(drawing, widthPx = 640, heightPx = 480) {
+  const [width, height] = shownSize(drawing) || [widthPx, heightPx];
   if (!drawing || !Array.isArray(drawing.shapes) || drawing.shapes.length === 0) return false;
   const typed = await askFileName(' Salvar desenho', 'desenho');
   if (!typed) return false;
   const base = typed.toLowerCase().endsWith('.svg') ? typed.slice(0, -4) : typed;
-  const svg = drawingToSvg(drawing, widthPx, heightPx, { frame: false });
+  const svg = drawingToSvg(drawing, width, height, { frame: false });
   const text = `<?xml version="1.0" encoding="UTF-8" standalone="no"?>\n${new XMLSerializer().serializeToString(svg)}\n`;
   download(`${base.replace(/\./g, '_')}.svg`, text, 'image/svg+xml');
   return true;

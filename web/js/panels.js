@@ -84,6 +84,12 @@ export function openDialog({ id, title, content = [], buttons, focus }) {
     for (const [caption, value, attributes] of buttons)
       row.append(button(caption, () => { result = typeof value === 'function' ? value() : value; dialog.close(); }, attributes));
     dialog.append(row);
+    // Enter in a box presses the first button, as a dialog's default button.
+    dialog.addEventListener('keydown', (event) => {
+      if (event.key !== 'Enter' || event.target.tagName !== 'INPUT') return;
+      event.preventDefault();
+      row.querySelector('button').click();
+    });
     dialog.addEventListener('close', () => { dialog.remove(); resolve(result); });
     document.body.appendChild(dialog);
     dialog.showModal();

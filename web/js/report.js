@@ -99,12 +99,6 @@ export function reportElement(report) {
 export function askReportTitle() {
   const input = element('input', { type: 'text', name: 'title', size: '40', autocomplete: 'off' });
   const label = element('label', { className: 'dialog-field' }, element('span', { text: 'Título do exemplo' }), input);
-  input.addEventListener('keydown', (event) => {
-    if (event.key === 'Enter') {
-      event.preventDefault();
-      input.closest('dialog').querySelector('[data-answer="ok"]').click();
-    }
-  });
   return openDialog({
     id: 'report-title', title: 'MORVE', content: [label], focus: input,
     buttons: [['OK', () => input.value, { 'data-answer': 'ok' }], ['Cancelar', null, { 'data-answer': 'cancel' }]],
@@ -112,9 +106,10 @@ export function askReportTitle() {
 }
 
 // Asks the title, has the core write the report of `key` from the boxes as they
-// stand, and shows its pages with "Imprimir" (the browser's print dialog, which
-// prints the report alone) and "Fechar" (back to the module).
-export async function showReport({ call, session, key, inputs, caller }) {
+// stand, and shows its pages over the module with "Imprimir" (the browser's
+// print dialog, which prints the report alone) and "Fechar" (back to the module,
+// the focus where it was).
+export async function showReport({ call, session, key, inputs }) {
   const title = await askReportTitle();
   if (title === null) return false;
   const answer = await call({ op: 'report', session, key, title, inputs: inputs || { fields: {}, grids: {} } });
@@ -131,10 +126,7 @@ export async function showReport({ call, session, key, inputs, caller }) {
       ['Imprimir', () => window.print(), { 'data-name': 'Report.Imprimir' }],
       ['Fechar', (close) => close(), { 'data-name': 'Report.Fechar' }],
     ],
-    onClose: () => {
-      document.body.classList.remove('report-open');
-      if (caller && typeof caller.focus === 'function') caller.focus();
-    },
+    onClose: () => document.body.classList.remove('report-open'),
   });
   panel.body.appendChild(reportElement(answer));
   return true;

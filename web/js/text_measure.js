@@ -42,3 +42,14 @@ export function fontMetrics(font) {
   metricsCache.set(font, metrics);
   return metrics;
 }
+
+// The first measure readies the canvas and loads the faces, some milliseconds
+// better spent while the page waits for the user than on the first CALCULAR.
+if (typeof document !== 'undefined') {
+  const warm = () => {
+    textWidth('Mx', cssFont(12, DRAWING_FACE));
+    fontMetrics(cssFont(16, REPORT_FACE));
+  };
+  if (typeof requestIdleCallback === 'function') requestIdleCallback(warm);
+  else setTimeout(warm, 0);
+}
