@@ -62,11 +62,14 @@ function serve(root) {
 const FLAGS = ['--headless=new', '--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run',
   '--disable-background-networking', '--disable-component-update', '--disable-sync'];
 
+// A student's laptop screen; MORVE_WINDOW=1280x720 tries the smallest window the page is made for.
+const WINDOW = (process.env.MORVE_WINDOW || '1366x768').split('x').map(Number);
+
 // Chromium with a profile of its own, removed with the browser.
 async function launch() {
   const profile = fs.mkdtempSync(path.join(os.tmpdir(), 'morve-chromium-'));
   const browser = await puppeteer.launch({ executablePath: CHROMIUM, headless: true,
-    args: FLAGS, userDataDir: profile, defaultViewport: { width: 1366, height: 768 } });
+    args: FLAGS, userDataDir: profile, defaultViewport: { width: WINDOW[0], height: WINDOW[1] } });
   const close = browser.close.bind(browser);
   browser.close = async () => { await close(); fs.rmSync(profile, { recursive: true, force: true }); };
   return browser;

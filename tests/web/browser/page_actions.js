@@ -110,14 +110,15 @@ async function press(s, name) {
   const state = await el.evaluate((e) => ({ disabled: e.disabled, visible: e.checkVisibility() }));
   if (state.disabled || !state.visible)
     throw new Error(`o botão ${name} está ${state.disabled ? 'desabilitado' : 'escondido'} na página`);
-  // A button under another screen cannot be clicked by a user either.
+  // A button under another screen, or out of the window, is out of a user's reach too.
   const over = await el.evaluate((e) => {
     e.scrollIntoView({ block: 'center' });
     const r = e.getBoundingClientRect();
     const top = document.elementFromPoint(r.left + r.width / 2, r.top + r.height / 2);
-    return !top || e.contains(top) ? '' : (top.closest('[data-screen]') || top).dataset.screen || top.tagName;
+    if (!top) return 'fora da janela, sem rolagem que o traga';
+    return e.contains(top) ? '' : `coberto por ${(top.closest('[data-screen]') || top).dataset.screen || top.tagName}`;
   });
-  if (over) throw new Error(`o botão ${name} está coberto por ${over}`);
+  if (over) throw new Error(`o botão ${name} está ${over}`);
   const mark = await pageMark(s.page);
   await el.click().catch((e) => { throw new Error(`${name}: ${e.message}`); });
   await settle(s, mark);
