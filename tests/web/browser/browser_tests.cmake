@@ -22,5 +22,11 @@ foreach(entry ${MORVE_BROWSER_TESTS})
     FIXTURES_REQUIRED morve_browser SKIP_RETURN_CODE 77 TIMEOUT 180
     ENVIRONMENT "NODE_PATH=${MORVE_BROWSER_MODULES}/node_modules;MORVE_WEB=${CMAKE_BINARY_DIR}/web;MORVE_CALC=$<TARGET_FILE:morve-calc>;MORVE_EXAMPLES=${CMAKE_SOURCE_DIR}/examples;MORVE_CASES=${CMAKE_SOURCE_DIR}/tests/cases;MORVE_SHOTS=${CMAKE_BINARY_DIR}/web-shots")
 endforeach()
+# The main screens again in the smallest window the page is made for.
+add_test(NAME web.browser.modules_1280x720 COMMAND node ${MORVE_BROWSER_DIR}/modules_test.js)
+get_test_property(web.browser.modules ENVIRONMENT MORVE_BROWSER_ENV)
+set_tests_properties(web.browser.modules_1280x720 PROPERTIES
+  FIXTURES_REQUIRED morve_browser SKIP_RETURN_CODE 77 TIMEOUT 180
+  ENVIRONMENT "${MORVE_BROWSER_ENV};MORVE_WINDOW=1280x720")
 # Timings mean something only with the machine to themselves.
 set_tests_properties(web.browser.timings PROPERTIES RUN_SERIAL TRUE)

@@ -1,7 +1,8 @@
 'use strict';
 // Every module the core registers opens from the page's menu: its leaf is there
 // with the catalogue's caption, its main screen shows, every control the core
-// declares has its element (the visible ones visible), with no console error and
+// declares has its element (the visible ones visible and within reach of the
+// mouse in the window), with no console error and
 // no "nan", "inf" or "undefined" on the page.
 const h = require('./harness');
 const d = require('./case_driver');
@@ -42,6 +43,16 @@ async function checkModule(page, url, key, declared, caption) {
     if (found[i] === 'missing') why.push(`falta ${c.name} (${c.kind})`);
     else if (c.visible && found[i] !== 'visible') why.push(`${c.name} (${c.kind}) não aparece`);
   });
+  // Within reach: brought into the window by scrolling, and not under anything.
+  const shown = expected.filter((c, i) => c.visible && found[i] === 'visible').map((c) => c.name);
+  const out = await page.evaluate((names) => names.filter((n) => {
+    const e = document.querySelector(`[data-name="${n}"]`);
+    e.scrollIntoView({ block: 'center', inline: 'center' });
+    const r = e.getBoundingClientRect();
+    const top = document.elementFromPoint(r.left + r.width / 2, r.top + r.height / 2);
+    return !top || !(e.contains(top) || top.contains(e) || (e.labels && [...e.labels].some((l) => l.contains(top))));
+  }), shown);
+  if (out.length) why.push(`fora do alcance na janela: ${out.join(', ')}`);
   const bad = d.badWords((await d.readPage(page)).text);
   if (bad.length) why.push(`a página mostra ${bad.join(', ')}`);
   why.push(...page.errors.splice(0));
