@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "app/texts.h"
 #include "cli/case_runner.h"
 #include "cli/project_case.h"
 #include "web/web_ops.h"
@@ -37,7 +38,10 @@ json runCaseText(const json& request) {
         resolveCaseProject(caseFile, casePath);
         return {{"status", 0}, {"stdout", outcomeText(runCase(caseFile).outcome)}};
     } catch (const CaseError& e) {
-        return {{"status", 2}, {"stderr", std::string("morve-calc: ") + casePath + ": " + e.what() + "\n"}};
+        return {{"status", 2}, {"stderr", "morve-calc: " + casePath + ": " + e.what() + "\n"}};
+    } catch (const std::exception& e) {
+        return {{"status", 2},
+                {"stderr", "morve-calc: " + casePath + ": erro inesperado: " + quoteText(e.what(), 200) + "\n"}};
     }
 }
 
