@@ -20,12 +20,14 @@ function makeMenu(caption, name, bar, topLevel) {
   const items = document.createElement('ul');
   items.className = 'menu-items';
   menu.append(button, items);
+  // A menu of the bar opens and closes on its title; a submenu's title only
+  // opens it, though pointing at it opened it already.
   button.addEventListener('click', (event) => {
     event.stopPropagation();
     const wasOpen = menu.classList.contains('open');
     if (topLevel) closeAll(bar);
-    else for (const sibling of menu.parentElement.children) sibling.classList.remove('open');
-    if (!wasOpen) openMenu(menu);
+    else for (const sibling of menu.parentElement.children) if (sibling !== menu) sibling.classList.remove('open');
+    if (!wasOpen || !topLevel) openMenu(menu);
   });
   menu.addEventListener('mouseenter', () => {
     if (!bar.querySelector('.menu.open')) return;

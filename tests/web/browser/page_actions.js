@@ -174,7 +174,8 @@ async function confirmStart(page, startup = {}) {
 }
 
 // The module's leaf in the menu, reached as with a mouse: each menu above it,
-// outermost first, pointed at, and clicked when pointing does not open it.
+// outermost first, pointed at and clicked (a menu of the bar only when pointing
+// does not open it, as a second click there closes it); each must stay open.
 async function openModule(page, key) {
   const leaf = await page.$(`[data-module="${key}"]`);
   if (!leaf) throw new Error(`o menu não tem ${key}`);
@@ -188,7 +189,8 @@ async function openModule(page, key) {
     const title = await menu.$(':scope > button');
     const opened = () => menu.evaluate((m) => [...m.children].some((c) => c.tagName !== 'BUTTON' && c.checkVisibility()));
     await title.hover();
-    if (!(await opened())) await title.click();
+    if (i > 0 || !(await opened())) await title.click();
+    if (!(await opened())) throw new Error(`o menu ${await title.evaluate((b) => b.textContent)} não abriu`);
   }
   await leaf.click();
   await page.waitForFunction((k) => {
