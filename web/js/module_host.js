@@ -9,8 +9,7 @@ import { applyState, gatherInputs } from './state.js';
 import { showMessage, warn } from './dialogs.js';
 import { pictureModule } from './pictures.js';
 import { shellText } from './shell_texts.js';
-
-let raised = 10;
+import { bringToFront, makeMovable, raiseOnClick, placeBeside, unplace } from './windows.js';
 
 export class ModuleHost {
   constructor({ call, opened, key, container, shell }) {
@@ -33,6 +32,8 @@ export class ModuleHost {
         withSteps: main && decl.toolbar,
       });
       screen.section.classList.add(main ? 'main-screen' : 'companion');
+      makeMovable(screen.section, screen.section.querySelector('.titlebar'));
+      raiseOnClick(screen.section, () => this.raise(decl.name));
       this.screens.set(decl.name, screen);
       container.append(screen.section);
     }
@@ -43,21 +44,28 @@ export class ModuleHost {
     return gatherInputs(this.screens);
   }
 
-  // The state into the controls; a companion that comes into view comes on top.
+  // The state into the controls. A window that comes into view comes on top:
+  // centred when it holds the others back, as a dialog, else beside them.
   show(state) {
     if (!state) return;
     const before = new Set(this.state.shown || []);
     this.state = state;
     applyState(this.screens, state);
-    for (const name of state.shown || []) {
-      const screen = this.screens.get(name);
-      if (screen && !before.has(name) && name !== this.info.key) screen.section.style.zIndex = String(++raised);
+    const shown = (state.shown || []).filter((name) => this.screens.has(name));
+    for (const name of shown) {
+      if (before.has(name)) continue;
+      const { section } = this.screens.get(name);
+      bringToFront(section);
+      if (name === this.info.key) continue;
+      const others = shown.filter((other) => other !== name);
+      if (others.some((other) => (state.disabledScreens || []).includes(other))) unplace(section);
+      else placeBeside(section, others.map((other) => this.screens.get(other).section));
     }
   }
 
   raise(name) {
     const screen = this.screens.get(name);
-    if (screen && name !== this.info.key) screen.section.style.zIndex = String(++raised);
+    if (screen) bringToFront(screen.section);
   }
 
   qualify(command) {
