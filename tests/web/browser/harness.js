@@ -65,10 +65,11 @@ const FLAGS = ['--headless=new', '--no-sandbox', '--disable-gpu', '--disable-qui
 // A student's laptop screen; MORVE_WINDOW=1280x720 tries the smallest window the page is made for.
 const WINDOW = (process.env.MORVE_WINDOW || '1366x768').split('x').map(Number);
 
-// Chromium with a profile of its own, removed with the browser.
+// Chromium with a profile of its own, removed with the browser; with its
+// scrollbars, which take room and show in the pictures as a user sees them.
 async function launch() {
   const profile = fs.mkdtempSync(path.join(os.tmpdir(), 'morve-chromium-'));
-  const browser = await puppeteer.launch({ executablePath: CHROMIUM, headless: true,
+  const browser = await puppeteer.launch({ executablePath: CHROMIUM, headless: true, ignoreDefaultArgs: ['--hide-scrollbars'],
     args: FLAGS, userDataDir: profile, defaultViewport: { width: WINDOW[0], height: WINDOW[1] } });
   const close = browser.close.bind(browser);
   browser.close = async () => { await close(); fs.rmSync(profile, { recursive: true, force: true }); };

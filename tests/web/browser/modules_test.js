@@ -2,7 +2,7 @@
 // Every module the core registers opens from the page's menu: its leaf is there
 // with the catalogue's caption, its main screen shows, every control the core
 // declares has its element (the visible ones visible and within reach of the
-// mouse in the window), with no console error and
+// mouse in the window, a companion's as it shows), with no console error and
 // no "nan", "inf" or "undefined" on the page.
 const h = require('./harness');
 const d = require('./case_driver');
@@ -20,6 +20,29 @@ function askCore(page, requests) {
     worker.terminate();
     return answers;
   }, requests);
+}
+
+// The controls of the list a user could not click: none is under the point
+// where it shows once scrolled into view. A companion named is shown on top
+// for the while, and its controls the state hides are left out.
+function unreachable(page, companion, names) {
+  return page.evaluate((screen, list) => {
+    const section = screen && document.querySelector(`section.screen[data-screen="${screen}"]`);
+    if (section) {
+      section.hidden = false;
+      section.style.zIndex = '99999';
+    }
+    const out = list.filter((n) => {
+      const e = document.querySelector(`[data-name="${n}"]`);
+      if (!e || (section && !e.checkVisibility())) return false;
+      e.scrollIntoView({ block: 'center', inline: 'center' });
+      const r = e.getBoundingClientRect();
+      const top = document.elementFromPoint(r.left + r.width / 2, r.top + r.height / 2);
+      return !top || !(e.contains(top) || top.contains(e) || (e.labels && [...e.labels].some((l) => l.contains(top))));
+    });
+    if (section) section.hidden = true;
+    return out;
+  }, companion, names);
 }
 
 async function checkModule(page, url, key, declared, caption) {
@@ -43,15 +66,12 @@ async function checkModule(page, url, key, declared, caption) {
     if (found[i] === 'missing') why.push(`falta ${c.name} (${c.kind})`);
     else if (c.visible && found[i] !== 'visible') why.push(`${c.name} (${c.kind}) não aparece`);
   });
-  // Within reach: brought into the window by scrolling, and not under anything.
+  // Within reach: brought into the window by scrolling, and not under anything;
+  // each companion too, shown over the module as it comes up there.
   const shown = expected.filter((c, i) => c.visible && found[i] === 'visible').map((c) => c.name);
-  const out = await page.evaluate((names) => names.filter((n) => {
-    const e = document.querySelector(`[data-name="${n}"]`);
-    e.scrollIntoView({ block: 'center', inline: 'center' });
-    const r = e.getBoundingClientRect();
-    const top = document.elementFromPoint(r.left + r.width / 2, r.top + r.height / 2);
-    return !top || !(e.contains(top) || top.contains(e) || (e.labels && [...e.labels].some((l) => l.contains(top))));
-  }), shown);
+  const out = await unreachable(page, null, shown);
+  for (const s of declared.screens.filter((screen) => screen.name !== key))
+    out.push(...await unreachable(page, s.name, s.controls.map((c) => `${s.name}.${c.name}`)));
   if (out.length) why.push(`fora do alcance na janela: ${out.join(', ')}`);
   const bad = d.badWords((await d.readPage(page)).text);
   if (bad.length) why.push(`a página mostra ${bad.join(', ')}`);
