@@ -35,8 +35,8 @@ h.main(async (browser, url) => {
   guard('primeira carga', first, GUARD.load);
   guard('carga em cache', cached, GUARD.load);
 
-  // The first example of each module, and the two the pictures are taken from.
-  const shots = { 'form7-armadura-simples': 'form7', 'form34-tres-vaos': 'form34' };
+  // The first example of each module, and those the pictures are taken from.
+  const shots = { 'form7-armadura-simples': 'form7', 'form34-tres-vaos': 'form34', 'form24f-laje-em-l': 'form24f' };
   const seen = new Set();
   const chosen = h.examples().filter((ex) => shots[ex.name] || (!seen.has(ex.json.module) && seen.add(ex.json.module)));
   const widths = [8, 34, 22, 8, 8];
@@ -63,6 +63,7 @@ h.main(async (browser, url) => {
         await shoot(page, 'form34');
       } else {
         await shoot(page, shots[ex.name]);
+        if (ex.json.module !== 'Form7') continue;
         await d.backToMain(page, 'Form7');
         await d.openReport(page, 'Form7');
         await shoot(page, 'report');
