@@ -9,7 +9,7 @@ import { applyState, gatherInputs } from './state.js';
 import { showMessage, warn } from './dialogs.js';
 import { pictureModule } from './pictures.js';
 import { shellText } from './shell_texts.js';
-import { bringToFront, makeMovable, raiseOnClick, placeBeside, unplace } from './windows.js';
+import { bringToFront, makeMovable, raiseOnClick, placeBeside, unplace, fitPictures } from './windows.js';
 
 export class ModuleHost {
   constructor({ call, opened, key, container, shell }) {
@@ -56,6 +56,7 @@ export class ModuleHost {
       if (before.has(name)) continue;
       const { section } = this.screens.get(name);
       bringToFront(section);
+      fitPictures(section);
       if (name === this.info.key) continue;
       const others = shown.filter((other) => other !== name);
       if (others.some((other) => (state.disabledScreens || []).includes(other))) unplace(section);

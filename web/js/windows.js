@@ -7,6 +7,7 @@
 const MARGIN = 8;  // between a window and the page's edge
 const GAP = 8;     // between two windows side by side
 const GRIP = 80;   // of a window's title bar kept in the page while it is dragged
+const LEAST = 0.7; // of its height a picture keeps when its window is made to fit
 
 let front = 10;
 
@@ -82,9 +83,26 @@ export function raiseOnClick(section, onRaise) {
   }, true);
 }
 
+// A window a little taller than the page's room has its pictures and charts
+// drawn smaller, so that it shows whole; one much taller keeps them and scrolls.
+export function fitPictures(section) {
+  const page = section.querySelector('.page');
+  const holders = [...section.querySelectorAll('div.picture, div.chart')];
+  for (const holder of holders) for (const p of ['max-height', 'max-width']) holder.style.removeProperty(p);
+  const shown = holders.filter((holder) => holder.checkVisibility());
+  const excess = page ? page.scrollHeight - page.clientHeight : 0;
+  const boxes = shown.map((holder) => holder.getBoundingClientRect());
+  const total = boxes.reduce((sum, box) => sum + box.height, 0);
+  if (excess <= 0 || excess > total * (1 - LEAST)) return;
+  const scale = 1 - excess / total;
+  shown.forEach((holder, i) => Object.assign(holder.style,
+    { maxHeight: `${boxes[i].height * scale}px`, maxWidth: `${boxes[i].width * scale}px` }));
+}
+
 // A window put over the page comes back into it when the page shrinks.
 addEventListener('resize', () => {
   for (const section of document.querySelectorAll('section.screen:not([hidden])')) {
+    fitPictures(section);
     if (inFlow(section) || !section.style.left) continue;
     const r = section.getBoundingClientRect();
     const x = Math.max(MARGIN, Math.min(r.left, innerWidth - MARGIN - r.width));
