@@ -9,6 +9,7 @@
 
 #include <algorithm>
 
+#include "app/shell_texts.h"
 #include "gui/gui_prompter.h"
 #include "gui/key_filter_guard.h"
 
@@ -169,10 +170,9 @@ void Spreadsheet::paste(const QString& clipboard) {
     }
     if (refused) beep();
     if (wanted > limit)
-        guiPrompter().warn("A tabela tem no máximo " + std::to_string(limit) +
-                           " linhas: as linhas coladas além dessas ficaram de fora.");
+        guiPrompter().warn(pasteTooManyRows(std::to_string(limit)));
     else if (column + width > table_->columnCount())
-        guiPrompter().warn("Os valores colados além da última coluna da tabela ficaram de fora.");
+        guiPrompter().warn(kPasteTooWide);
 }
 
 void Spreadsheet::copy() const {

@@ -15,6 +15,7 @@
 
 #include "app/about.h"
 #include "app/catalogue.h"
+#include "app/shell_texts.h"
 #include "gui/data_paths.h"
 #include "gui/keyboard.h"
 
@@ -23,7 +24,7 @@ namespace morve {
 HelpPageWindow::HelpPageWindow(const char* objectName, QWidget* parent) : QWidget(parent) {
     setWindowFlag(Qt::Window);
     setObjectName(QString::fromUtf8(objectName));
-    setWindowTitle(QStringLiteral(" MORVE"));
+    setWindowTitle(QString::fromUtf8(kWindowTitle));
     browser_ = new QTextBrowser(this);
     browser_->setObjectName(QStringLiteral("RichTextBox1"));
     browser_->setOpenExternalLinks(true);
@@ -55,17 +56,17 @@ void HelpPageWindow::showPage(const std::string& baseName) {
 
 HelpListWindow::HelpListWindow() {
     setObjectName(QStringLiteral("Form0Help"));
-    setWindowTitle(QStringLiteral(" MORVE"));
+    setWindowTitle(QString::fromUtf8(kWindowTitle));
     setAttribute(Qt::WA_DeleteOnClose);
-    auto* label = new QLabel(QStringLiteral("Selecione um módulo e clique em \"Exibir\""), this);
+    auto* label = new QLabel(QString::fromUtf8(kHelpListLabel), this);
     label->setObjectName(QStringLiteral("Label1"));
     list_ = new QListWidget(this);
     list_->setObjectName(QStringLiteral("List1"));
     for (const HelpListRow& row : ModuleCatalogue::helpList()) list_->addItem(QString::fromStdString(row.text));
     list_->setMinimumSize(460, 360);
-    auto* show = new QPushButton(QStringLiteral("&Exibir"), this);
+    auto* show = new QPushButton(QString::fromUtf8(kHelpListShow), this);
     show->setObjectName(QStringLiteral("Command2"));
-    auto* cancel = new QPushButton(QStringLiteral("&Cancelar"), this);
+    auto* cancel = new QPushButton(QString::fromUtf8(kHelpListCancel), this);
     cancel->setObjectName(QStringLiteral("Command3"));
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(label);
@@ -106,7 +107,7 @@ void HelpListWindow::closeEvent(QCloseEvent* event) {
 TipWindow::TipWindow() {
     setWindowFlag(Qt::Window);
     setObjectName(QStringLiteral("FormTip"));
-    setWindowTitle(QStringLiteral(" MORVE"));
+    setWindowTitle(QString::fromUtf8(kWindowTitle));
     label_ = new QLabel(this);
     label_->setObjectName(QStringLiteral("Label1"));
     label_->setWordWrap(true);
@@ -129,14 +130,13 @@ QString TipWindow::tip() const { return label_->text(); }
 void TipWindow::drawTip() {
     QFile file(tipsFilePath());
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        label_->setText(QStringLiteral("Arquivo não encontrado."));
+        label_->setText(QString::fromUtf8(kTipsMissing));
         return;
     }
     QTextStream in(&file);
     in.setEncoding(QStringConverter::Utf8);
     QStringList tips;
-    // The file holds eleven tips, one a line.
-    while (!in.atEnd() && tips.size() < 11) tips << in.readLine();
+    while (!in.atEnd() && tips.size() < kTipCount) tips << in.readLine();
     if (tips.isEmpty()) {
         label_->setText(QString());
         return;

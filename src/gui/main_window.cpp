@@ -11,6 +11,7 @@
 
 #include "app/about.h"
 #include "app/module.h"
+#include "app/shell_texts.h"
 #include "gui/keyboard.h"
 #include "gui/recent_files.h"
 
@@ -39,9 +40,7 @@ public:
         add(QStringLiteral("MORVE"), 4.0, true, "Label1");
         add(QString::fromUtf8(kVersionCaption), 1.3, false, "Label2");
         layout->addSpacing(16);
-        add(QStringLiteral("Ferramenta destinada à elaboração de projeto de estruturas de concreto armado, "
-                           "com cálculo passo a passo. Ideal para o ensino e para o projetista iniciante."),
-            1.1, false, "Label3");
+        add(QString::fromUtf8(kAboutPurpose), 1.1, false, "Label3");
         layout->addStretch(3);
         layout->setContentsMargins(60, 20, 60, 20);
     }
@@ -73,7 +72,7 @@ protected:
 
 MainWindow::MainWindow() {
     setObjectName(QStringLiteral("Form0"));
-    setWindowTitle(QStringLiteral(" MORVE"));
+    setWindowTitle(QString::fromUtf8(kWindowTitle));
     setCentralWidget(new MenuPicture(this));
     resize(800, 560);
 

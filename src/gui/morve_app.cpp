@@ -4,6 +4,7 @@
 #include <QTimer>
 
 #include "app/catalogue.h"
+#include "app/shell_texts.h"
 #include "gui/gui_prompter.h"
 #include "gui/help_windows.h"
 #include "gui/main_window.h"
@@ -174,7 +175,7 @@ void MorveApp::showBackdrop(bool on) {
 }
 
 void MorveApp::askExit() {
-    if (guiPrompter().askYesNo("Deseja sair do programa?")) shutdown();
+    if (guiPrompter().askYesNo(kExitQuestion)) shutdown();
 }
 
 void MorveApp::showModuleHelp(const std::string& page) {

@@ -56,16 +56,6 @@ constexpr int kWholeWidth = kSpareColumn + 1;
 
 }  // namespace
 
-const std::vector<ToolbarButton>& toolbarButtons() {
-    static const std::vector<ToolbarButton> buttons{
-        {"Novo", "Iniciar novo módulo"},       {"Início", "Reiniciar o programa"},
-        {"Abrir", "Ler dados de arquivo"},     {"Salvar", "Salvar dados em arquivo"},
-        {"Imprimir", "Imprimir relatório"},    {"Ajuda", "Exibe a ajuda para esta janela"},
-        {"Sair", "Sair do programa"},
-    };
-    return buttons;
-}
-
 ScreenWindow::ScreenWindow(const ScreenDecl& screen, QWidget* parent) : QWidget(parent), decl_(screen) {
     setWindowFlag(Qt::Window);
     setWindowTitle(q(decl_.title));

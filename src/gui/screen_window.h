@@ -12,6 +12,7 @@
 
 #include "app/form_state.h"
 #include "app/screen.h"
+#include "app/shell_texts.h"
 #include "draw/chart.h"
 #include "draw/drawing.h"
 
@@ -27,12 +28,6 @@ namespace morve {
 class DrawingView;
 class ChartBox;
 
-// The seven buttons of a module's toolbar, in order: key and tool tip.
-struct ToolbarButton {
-    const char* key;
-    const char* toolTip;
-};
-const std::vector<ToolbarButton>& toolbarButtons();
 
 class ScreenWindow : public QWidget {
 public:

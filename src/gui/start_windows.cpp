@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "app/about.h"
+#include "app/shell_texts.h"
 #include "gui/window_places.h"
 
 namespace morve {
@@ -29,7 +30,7 @@ QLabel* bigLabel(const QString& text, double scale, bool bold, QWidget* parent) 
 // The frameless notices of the start and of the end share their look.
 QVBoxLayout* noticeLayout(QWidget* window, const char* name, double titleScale) {
     window->setObjectName(QString::fromUtf8(name));
-    window->setWindowTitle(QStringLiteral(" MORVE"));
+    window->setWindowTitle(QString::fromUtf8(kWindowTitle));
     window->setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
     window->setStyleSheet(QStringLiteral("background: #1f3b63; color: white;"));
     auto* layout = new QVBoxLayout(window);
@@ -44,14 +45,14 @@ SplashWindow::SplashWindow() {
     QVBoxLayout* layout = noticeLayout(this, "Form0entra", 3.0);
     layout->addWidget(bigLabel(QString::fromUtf8(kVersionCaption), 1.2, false, this));
     layout->addSpacing(20);
-    layout->addWidget(bigLabel(QStringLiteral("Carregando...Aguarde!"), 1.1, false, this));
+    layout->addWidget(bigLabel(QString::fromUtf8(kLoading), 1.1, false, this));
     adjustSize();
     centreOnScreen(this);
 }
 
 Backdrop::Backdrop() {
     setObjectName(QStringLiteral("Form0b"));
-    setWindowTitle(QStringLiteral(" MORVE"));
+    setWindowTitle(QString::fromUtf8(kWindowTitle));
     setWindowFlag(Qt::WindowStaysOnBottomHint);
     setGeometry(screenArea(this));
 }
@@ -66,7 +67,7 @@ void Backdrop::paintEvent(QPaintEvent*) {
 
 StartDialog::StartDialog() {
     setObjectName(QStringLiteral("FormAviso"));
-    setWindowTitle(QStringLiteral(" MORVE"));
+    setWindowTitle(QString::fromUtf8(kWindowTitle));
     setAttribute(Qt::WA_DeleteOnClose);
     setModal(true);
     auto* grid = new QGridLayout(this);
@@ -92,11 +93,11 @@ StartDialog::StartDialog() {
         grid->addWidget(caption, n, 0, Qt::AlignRight | Qt::AlignVCenter);
         grid->addWidget(list, n, 1);
     }
-    auto* next = new QPushButton(QStringLiteral(" &Próxima dica "), this);
+    auto* next = new QPushButton(QString::fromUtf8(kNextTipCaption), this);
     next->setObjectName(QStringLiteral("Command2"));
     // Enter is "&OK" wherever the focus is; the tip is asked for by a click or Alt+P.
     next->setAutoDefault(false);
-    auto* ok = new QPushButton(QStringLiteral("&OK"), this);
+    auto* ok = new QPushButton(QString::fromUtf8(kStartOkCaption), this);
     ok->setObjectName(QStringLiteral("Command1"));
     ok->setDefault(true);
     grid->addWidget(next, 5, 0);

@@ -14,6 +14,7 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include "app/shell_texts.h"
 #include "render/trace_pdf.h"
 
 namespace morve {
@@ -91,9 +92,9 @@ void addStepsButton(QToolBar* toolbar, QWidget* owner, std::function<const Trace
         pTaken = pTaken || b->text().contains(QStringLiteral("&p"), Qt::CaseInsensitive);
     QAction* a = toolbar->addAction(QIcon::fromTheme(QStringLiteral("format-justify-left"),
                                                      owner->style()->standardIcon(QStyle::SP_FileDialogContentsView)),
-                                    pTaken ? QStringLiteral("Passo &a passo") : QStringLiteral("&Passo a passo"));
+                                    QString::fromUtf8(stepsCaption(pTaken)));
     a->setObjectName(QStringLiteral("PassoAPasso"));
-    a->setToolTip(QStringLiteral("Mostra cada passo do último cálculo: fórmula, valores e item da norma"));
+    a->setToolTip(QString::fromUtf8(kStepsToolTip));
     a->setShortcut(QKeySequence(pTaken ? QStringLiteral("Alt+A") : QStringLiteral("Alt+P")));
     a->setShortcutContext(Qt::WindowShortcut);
     auto* window = new StepsWindow(owner);

@@ -1,0 +1,93 @@
+// The page: the core started in its worker, the main menu built from the
+// catalogue with the start-up defaults dialog over it, and one module at a
+// time opened from the menu in the module area.
+import { startCore, call } from './core.js';
+import { loadShellTexts, shellTexts } from './shell_texts.js';
+import { loadPictureModules, pictureModule } from './pictures.js';
+import { buildMenu, buildMenuPicture } from './menu.js';
+import { showStartDialog } from './start.js';
+import { showHelpList, showAbout } from './help_dialogs.js';
+import { answerAccelerators } from './captions.js';
+import { warn } from './dialogs.js';
+import { ModuleHost } from './module_host.js';
+
+let catalogue = {};
+let startup = [];
+let host = null;
+const menuArea = document.getElementById('menu-area');
+const moduleArea = document.getElementById('module');
+
+function showHelpPage(page) {
+  const help = pictureModule('help');
+  if (help && help.showHelp) help.showHelp(page);
+}
+
+function onHelp(entry) {
+  if (entry.action === 'page') showHelpPage(entry.page);
+  else if (entry.action === 'list') showHelpList(catalogue.helpList || [], showHelpPage);
+  else if (entry.action === 'about') showAbout(catalogue.about);
+}
+
+async function closeModule() {
+  if (!host) return;
+  const closing = host;
+  host = null;
+  // The module's help, report and steps go with it: each panel closes on Esc.
+  if (document.querySelector('.panel')) document.dispatchEvent(new KeyboardEvent('keydown', { key: 'Escape' }));
+  await closing.close();
+}
+
+async function toMenu() {
+  await closeModule();
+  moduleArea.hidden = true;
+  menuArea.hidden = false;
+}
+
+async function toStart() {
+  await toMenu();
+  showStartDialog(catalogue.startup || {}, (chosen) => { startup = chosen; });
+}
+
+async function openModule(key) {
+  await closeModule();
+  const opened = await call({ op: 'open', module: key, startup });
+  if (opened.error) {
+    await warn(opened.error);
+    return;
+  }
+  menuArea.hidden = true;
+  moduleArea.hidden = false;
+  host = new ModuleHost({ call, opened, key, container: moduleArea, shell: { toMenu, toStart } });
+  host.focusFirst();
+}
+
+function answerKeys() {
+  answerAccelerators(() => {
+    if (document.querySelector('dialog[open]')) return null;
+    return host ? host.activeScreen()?.section : null;
+  });
+  document.addEventListener('keydown', (event) => {
+    if (event.key !== 'Escape' || !host || document.querySelector('dialog[open]')) return;
+    event.preventDefault();
+    host.escape();
+  });
+}
+
+async function boot() {
+  window.morveTimings = window.morveTimings || [];
+  startCore();
+  const [answer] = await Promise.all([call({ op: 'catalogue' }), loadShellTexts(call), loadPictureModules()]);
+  if (answer.error) {
+    await warn(answer.error);
+    return;
+  }
+  catalogue = answer;
+  startup = [...((catalogue.startup || {}).selected || [])];
+  menuArea.append(buildMenu(catalogue, { onModule: openModule, onHelp, active: () => !menuArea.hidden }),
+    buildMenuPicture({ version: shellTexts().version, purpose: shellTexts().purpose }));
+  answerKeys();
+  showStartDialog(catalogue.startup || {}, (chosen) => { startup = chosen; });
+  document.body.dataset.ready = '1';
+}
+
+boot();
