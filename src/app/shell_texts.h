@@ -1,9 +1,9 @@
 #pragma once
 // The texts of the program's own windows, around the modules: the splash, the
-// start dialog's buttons, the list of help pages,
-// the toolbar of module windows, the question of "Sair", the notes of a paste
-// into a table and the "Passo a passo" button. The desktop and the web page
-// show these same words.
+// start dialog's buttons, the list of help pages, the toolbar of module windows,
+// the question of "Sair", the notes of a paste into a table, the "Passo a passo"
+// button and the offer of the data a session left behind. The desktop and the
+// web page show these same words.
 #include <string>
 #include <vector>
 
@@ -26,6 +26,16 @@ inline constexpr const char* kHelpListShow = "&Exibir";
 inline constexpr const char* kHelpListCancel = "&Cancelar";
 
 inline constexpr const char* kExitQuestion = "Deseja sair do programa?";
+
+// At start, when the last session ended without closing its module: the offer of
+// what was typed in it, and the warning when that copy cannot be read. The
+// desktop names its recovery file; the page keeps its copy in the browser, where
+// the user has no path to look at, and passes "".
+inline constexpr const char* kRecoveryQuestion = "Recuperar os dados digitados na última sessão?";
+inline std::string recoveryDamaged(const std::string& path) {
+    return "Não foi possível recuperar os dados da última sessão: o arquivo de recuperação " +
+           (path.empty() ? std::string() : path + " ") + "está danificado.";
+}
 
 // The seven buttons of a module window's toolbar, in order, with their tool tips.
 struct ToolbarButton {

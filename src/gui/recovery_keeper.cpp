@@ -2,6 +2,7 @@
 
 #include <QThreadPool>
 
+#include "app/shell_texts.h"
 #include "gui/gui_prompter.h"
 #include "gui/module_host.h"
 #include "gui/morve_app.h"
@@ -63,7 +64,7 @@ void RecoveryKeeper::finish() { writer().waitForDone(); }
 bool offerRecovery(MorveApp& app) {
     if (!recoveryFileExists()) return false;
     const std::string path = recoveryFilePath();
-    if (!guiPrompter().askYesNo("Recuperar os dados digitados na última sessão?")) {
+    if (!guiPrompter().askYesNo(kRecoveryQuestion)) {
         removeRecoveryFile();
         return false;
     }
@@ -72,8 +73,7 @@ bool offerRecovery(MorveApp& app) {
     FormState probe = module ? ModuleSession(*module, app.defaults()).state() : FormState();
     const ProjectResult r = module ? openProjectFile(*module, path, probe) : ProjectResult{"?"};
     if (!r.ok()) {
-        guiPrompter().warn("Não foi possível recuperar os dados da última sessão: o arquivo de recuperação " + path +
-                           " está danificado.");
+        guiPrompter().warn(recoveryDamaged(path));
         removeRecoveryFile();
         return false;
     }

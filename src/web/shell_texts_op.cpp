@@ -33,6 +33,8 @@ json shellTexts(const json&) {
         // The page puts the table's limit where "%1" stands.
         {"pasteTooManyRows", pasteTooManyRows("%1")},
         {"pasteTooWide", kPasteTooWide},
+        {"recoveryQuestion", kRecoveryQuestion},
+        {"recoveryDamaged", recoveryDamaged("")},
     };
 }
 

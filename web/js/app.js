@@ -10,10 +10,12 @@ import { showHelpList, showAbout } from './help_dialogs.js';
 import { answerAccelerators } from './captions.js';
 import { warn } from './dialogs.js';
 import { ModuleHost } from './module_host.js';
+import { RecoveryKeeper, offerRecovery, recoveryKept } from './recovery.js';
 
 let catalogue = {};
 let startup = [];
 let host = null;
+let keeper = null;
 const menuArea = document.getElementById('menu-area');
 const moduleArea = document.getElementById('module');
 
@@ -32,6 +34,7 @@ async function closeModule() {
   if (!host) return;
   const closing = host;
   host = null;
+  keeper.stop();
   // The module's help, report and steps go with it: each panel closes on Esc.
   if (document.querySelector('.panel')) document.dispatchEvent(new KeyboardEvent('keydown', { key: 'Escape' }));
   await closing.close();
@@ -43,22 +46,36 @@ async function toMenu() {
   menuArea.hidden = false;
 }
 
-async function toStart() {
-  await toMenu();
+function askStartup() {
   showStartDialog(catalogue.startup || {}, (chosen) => { startup = chosen; });
 }
 
-async function openModule(key) {
+async function toStart() {
+  await toMenu();
+  askStartup();
+}
+
+// The module from the menu, or with the data the last session left (kept): a
+// copy the module refuses opens nothing, and the answer says so.
+async function openModule(key, kept = null) {
   await closeModule();
   const opened = await call({ op: 'open', module: key, startup });
-  if (opened.error) {
-    await warn(opened.error);
-    return;
+  if (opened.error && kept === null) await warn(opened.error);
+  if (opened.error) return false;
+  if (kept !== null) {
+    const loaded = await call({ op: 'load', session: opened.session, text: kept });
+    if (loaded.error || loaded.message) {
+      await call({ op: 'close', session: opened.session });
+      return false;
+    }
+    opened.state = loaded.state;
   }
   menuArea.hidden = true;
   moduleArea.hidden = false;
   host = new ModuleHost({ call, opened, key, container: moduleArea, shell: { toMenu, toStart } });
+  keeper = new RecoveryKeeper(host, call);
   host.focusFirst();
+  return true;
 }
 
 function answerKeys() {
@@ -86,8 +103,12 @@ async function boot() {
   menuArea.append(buildMenu(catalogue, { onModule: openModule, onHelp, active: () => !menuArea.hidden }),
     buildMenuPicture({ version: shellTexts().version, purpose: shellTexts().purpose }));
   answerKeys();
-  showStartDialog(catalogue.startup || {}, (chosen) => { startup = chosen; });
+  // Data the last session left come first, as on the desktop: the module opens
+  // with them in place of the start dialog.
+  const offering = recoveryKept();
+  if (!offering) askStartup();
   document.body.dataset.ready = '1';
+  if (offering && !(await offerRecovery(call, openModule))) askStartup();
 }
 
 boot();

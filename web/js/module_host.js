@@ -23,6 +23,8 @@ export class ModuleHost {
     this.screens = new Map();
     this.state = {};
     this.running = false;
+    // Called right before every "CALCULAR": the recovery copy is made then.
+    this.onCalculate = null;
     for (const decl of opened.screens || []) {
       const main = decl.name === this.info.key;
       const screen = buildScreen(decl, {
@@ -92,6 +94,9 @@ export class ModuleHost {
       const inputs = this.inputs();
       const answers = [];
       let shown = 0;
+      // Sent ahead of the press, not awaited: the core answers in order, and the
+      // page stays busy until both are done.
+      if (this.onCalculate && this.qualify(command) === this.qualify(this.info.calculate || '')) this.onCalculate();
       this.showStatus(command, true);
       for (;;) {
         const answer = await this.call({ op: 'press', session: this.session, command, inputs, answers });

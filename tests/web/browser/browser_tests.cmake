@@ -10,7 +10,7 @@ add_test(NAME web.browser.install
                  -P ${MORVE_BROWSER_DIR}/npm_ci.cmake)
 set_tests_properties(web.browser.install PROPERTIES FIXTURES_SETUP morve_browser)
 
-set(MORVE_BROWSER_TESTS modules "examples 1/2" "examples 2/2" questions files windows timings)
+set(MORVE_BROWSER_TESTS modules "examples 1/2" "examples 2/2" questions files windows timings recovery)
 foreach(entry ${MORVE_BROWSER_TESTS})
   separate_arguments(words UNIX_COMMAND "${entry}")
   list(POP_FRONT words script)

@@ -86,12 +86,7 @@ h.main(async (browser, url) => {
   const cdp = await page.createCDPSession();
   await cdp.send('Browser.setDownloadBehavior', { behavior: 'allow', downloadPath: dir });
   const results = [];
-  const attempt = async (name, body) => {
-    let why;
-    try { why = [...(await body()), ...page.errors.splice(0)]; } catch (e) { why = [e.message, ...page.errors.splice(0)]; }
-    console.log(`${why.length ? 'DIFERE' : 'ok    '} ${name}`);
-    results.push({ name, ok: !why.length, why });
-  };
+  const attempt = h.stepper(page, results);
   const all = h.examples();
   for (const ex of all.filter((e) => PLAYED.includes(e.name))) {
     let played = false;

@@ -77,8 +77,11 @@ async function launch() {
 }
 
 // A page whose console errors, uncaught exceptions and failed loads are kept for the test to check.
-async function newPage(browser) {
+// Each load is a first visit, the data a case left typed not offered back,
+// unless the test is about what a load finds (keepStorage).
+async function newPage(browser, { keepStorage = false } = {}) {
   const page = await browser.newPage();
+  if (!keepStorage) await page.evaluateOnNewDocument(() => { try { localStorage.clear(); } catch (e) { /* no storage here */ } });
   page.errors = [];
   // The browser asks for /favicon.ico by itself; the rest the page asked for.
   const own = (text) => /favicon\.ico/.test(text);
@@ -135,6 +138,17 @@ function examples() {
       json: JSON.parse(fs.readFileSync(path.join(env.examples, f), 'utf8')) }));
 }
 
+// Named steps of a test on one page, each a list of differences, into results;
+// a step that throws fails with its message; the page's errors count against it.
+function stepper(page, results) {
+  return async (name, body) => {
+    let why;
+    try { why = [...(await body()), ...page.errors.splice(0)]; } catch (e) { why = [e.message, ...page.errors.splice(0)]; }
+    console.log(`${why.length ? 'DIFERE' : 'ok    '} ${name}`);
+    results.push({ name, ok: !why.length, why });
+  };
+}
+
 // Ends with the line ctest and CI read; failures make the exit status.
 function tally(results) {
   const failed = results.filter((r) => !r.ok);
@@ -164,4 +178,4 @@ function main(body) {
   }, (e) => { console.error(e); process.exit(1); });
 }
 
-module.exports = { env, serve, launch, newPage, load, calc, calcCase, writeCase, examples, tally, main };
+module.exports = { env, serve, launch, newPage, load, calc, calcCase, writeCase, examples, stepper, tally, main };
