@@ -5,8 +5,11 @@ namespace morve {
 ScriptedPrompter::ScriptedPrompter(std::vector<std::string> answers)
     : answers_(answers.begin(), answers.end()) {}
 
-std::string ScriptedPrompter::next(const std::string& fallback) {
-    if (answers_.empty()) return fallback;
+std::string ScriptedPrompter::unanswered(const Message&, const std::string& fallback) { return fallback; }
+
+std::string ScriptedPrompter::next(MessageKind kind, const std::string& text, const std::string& title,
+                                   const std::string& fallback) {
+    if (answers_.empty()) return unanswered({kind, title, text, ""}, fallback);
     std::string a = answers_.front();
     answers_.pop_front();
     return a;
@@ -17,14 +20,14 @@ void ScriptedPrompter::warn(const std::string& text, const std::string& title) {
 }
 
 bool ScriptedPrompter::askYesNo(const std::string& text, const std::string& title) {
-    std::string a = next("no");
+    std::string a = next(MessageKind::YesNo, text, title, "no");
     bool yes = a == "yes";
     messages_.push_back({MessageKind::YesNo, title, text, yes ? "yes" : "no"});
     return yes;
 }
 
 bool ScriptedPrompter::askOkCancel(const std::string& text, const std::string& title) {
-    std::string a = next("cancel");
+    std::string a = next(MessageKind::OkCancel, text, title, "cancel");
     bool ok = a == "ok" || a == "yes";
     messages_.push_back({MessageKind::OkCancel, title, text, ok ? "ok" : "cancel"});
     return ok;

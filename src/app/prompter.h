@@ -40,6 +40,7 @@ struct Message {
 
 // Answers questions from a queue; when it runs out a Yes/No gets "no" and an
 // OK/Cancel gets "cancel", so the calculation goes on with the values as typed.
+// A prompter that must do otherwise past its answers overrides `unanswered`.
 class ScriptedPrompter : public Prompter {
 public:
     ScriptedPrompter() = default;
@@ -53,8 +54,13 @@ public:
     // Messages since the last call, for reporting one press at a time.
     std::vector<Message> takeMessages();
 
+protected:
+    // The answer to a question asked after the queue ran out.
+    virtual std::string unanswered(const Message& question, const std::string& fallback);
+
 private:
-    std::string next(const std::string& fallback);
+    std::string next(MessageKind kind, const std::string& text, const std::string& title,
+                     const std::string& fallback);
     std::deque<std::string> answers_;
     std::vector<Message> messages_;
     std::size_t taken_ = 0;

@@ -4,6 +4,7 @@
 
 #include "app/catalogue.h"
 #include "app/texts.h"
+#include "cli/outcome_json.h"
 #include "cli/project_case.h"
 
 namespace morve {
@@ -109,18 +110,6 @@ bool isCommand(const FormState& state, const std::string& name) {
     return decl && decl->kind == ControlKind::Command;
 }
 
-json fieldsOf(const FormState& state) {
-    json fields = json::object();
-    for (const auto& [name, text] : state.texts()) fields[name] = text;
-    return fields;
-}
-
-json gridsOf(const FormState& state) {
-    json grids = json::object();
-    for (const auto& [name, rows] : state.grids()) grids[name] = rows;
-    return grids;
-}
-
 }  // namespace
 
 json parseCase(const std::string& text) {
@@ -198,27 +187,18 @@ CaseRun runCase(const json& c, bool recordSteps) {
         }
         const std::string name = textOf(press);
         Outcome o = session.press(name, prompter);
-        json messages = json::array();
-        for (const auto& m : prompter.takeMessages())
-            messages.push_back({{"kind", messageKindName(m.kind)},
-                                {"title", m.title},
-                                {"text", m.text},
-                                {"answer", m.answer}});
-        json effects = json::array();
-        for (const auto& e : o.effects)
-            effects.push_back({{"kind", effectKindName(e.kind)}, {"target", e.target}});
         json step = {{"press", name},
                      {"completed", o.completed},
                      {"focus", o.focus.empty() ? json(nullptr) : json(o.focus)},
-                     {"messages", messages},
-                     {"effects", effects}};
+                     {"messages", messagesJson(prompter.takeMessages())},
+                     {"effects", effectsJson(o.effects)}};
         if (!o.refused.empty()) step["refused"] = o.refused;
         steps.push_back(std::move(step));
     }
     run.outcome = {{"module", key},
                    {"steps", steps},
-                   {"fields", fieldsOf(session.state())},
-                   {"grids", gridsOf(session.state())}};
+                   {"fields", fieldsJson(session.state())},
+                   {"grids", gridsJson(session.state())}};
     return run;
 }
 

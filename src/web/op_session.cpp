@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "app/catalogue.h"
+#include "cli/outcome_json.h"
 #include "web/replay_prompter.h"
 #include "web/screen_json.h"
 #include "web/sessions.h"
@@ -62,12 +63,6 @@ std::vector<std::string> answersOf(const json& request) {
     if (!a.is_array()) throw RequestError("\"answers\" deve ser uma lista");
     for (const json& v : a) answers.push_back(v.is_string() ? v.get<std::string>() : "");
     return answers;
-}
-
-json effectsJson(const std::vector<ScreenEffect>& effects) {
-    json out = json::array();
-    for (const ScreenEffect& e : effects) out.push_back({{"kind", effectKindName(e.kind)}, {"target", e.target}});
-    return out;
 }
 
 json press(const json& request) {

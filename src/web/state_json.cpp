@@ -1,5 +1,6 @@
 #include "web/state_json.h"
 
+#include "cli/outcome_json.h"
 #include "web/drawing_json.h"
 
 namespace morve::web {
@@ -8,10 +9,6 @@ using nlohmann::json;
 
 json stateJson(const ModuleSession& session) {
     const FormState& state = session.state();
-    json fields = json::object();
-    for (const auto& [name, text] : state.texts()) fields[name] = text;
-    json grids = json::object();
-    for (const auto& [name, rows] : state.grids()) grids[name] = rows;
     json items = json::object(), drawings = json::object(), charts = json::object();
     for (const ScreenDecl& screen : state.screens()) {
         const bool shown = session.screenShown(screen.name);
@@ -28,8 +25,8 @@ json stateJson(const ModuleSession& session) {
             }
         }
     }
-    return {{"fields", fields},
-            {"grids", grids},
+    return {{"fields", fieldsJson(state)},
+            {"grids", gridsJson(state)},
             {"items", items},
             {"disabled", state.disabledNames()},
             {"hidden", state.hiddenNames()},

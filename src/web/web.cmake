@@ -29,7 +29,7 @@ if(EXISTS /usr/share/nodejs/acorn)
 endif()
 
 file(GLOB MORVE_WEB_SOURCES CONFIGURE_DEPENDS src/web/*.cpp)
-add_executable(morve_web ${MORVE_WEB_SOURCES} src/cli/case_runner.cpp src/cli/project_case.cpp)
+add_executable(morve_web ${MORVE_WEB_SOURCES} ${MORVE_CASE_RUNNER_SOURCES})
 target_link_libraries(morve_web PRIVATE morve_core)
 target_include_directories(morve_web SYSTEM PRIVATE ${CMAKE_BINARY_DIR}/web-include)
 set_target_properties(morve_web PROPERTIES OUTPUT_NAME morve SUFFIX .js
