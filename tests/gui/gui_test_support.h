@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "app/module.h"
+#include "gui/gui_prompter.h"
 #include "gui/morve_app.h"
 #include "reports/report_writer.h"
 
@@ -20,6 +21,22 @@ inline morve::AppOptions quickOptions() {
 inline void settle() {
     for (int i = 0; i < 3; ++i) QApplication::processEvents();
 }
+
+// A program started straight into a module, its message boxes answered by a
+// script (an empty one answers No and Cancel), which is taken back when the test
+// ends, however it ends.
+struct ProgramInModule {
+    explicit ProgramInModule(const std::string& module) {
+        morve::setGuiPrompter(&prompter);
+        app.start();
+        app.openModule(module);
+        settle();
+    }
+    ~ProgramInModule() { morve::setGuiPrompter(nullptr); }
+
+    morve::ScriptedPrompter prompter;
+    morve::MorveApp app{quickOptions()};
+};
 
 // A module that has only a report, its lines written by the test. The helical
 // stairs' key serves: its title comes from the catalogue.

@@ -49,13 +49,9 @@ class ProjectFilesTest : public QObject {
 
 private slots:
     void savedThroughTheDialogAndOpenedBack() {
-        ScriptedPrompter prompter;
-        setGuiPrompter(&prompter);
         QTemporaryDir dir;
-        MorveApp app(quickOptions());
-        app.start();
-        app.openModule("Form90");
-        settle();
+        ProgramInModule program("Form90");
+        MorveApp& app = program.app;
         title(app)->setText("Viga \"V1\", térreo");
         state(app).grid("Form90b.Grade1")[1][1] = "4.5";
 
@@ -95,7 +91,7 @@ private slots:
         std::ofstream(other) << "\"Form34\"\r\n\"x\"\r\n";
         title(app)->setText("typed after saving");
         QVERIFY(!openProjectInto(*app.module(), other));
-        QCOMPARE(prompter.messages().back().text,
+        QCOMPARE(program.prompter.messages().back().text,
                  std::string("O arquivo selecionado não corresponde ao módulo atual. Escolha outro arquivo."));
         QCOMPARE(title(app)->text(), QString("typed after saving"));
 
@@ -114,18 +110,13 @@ private slots:
         QVERIFY(!app.menu()->isVisible());
         app.shutdown();
         settle();
-        setGuiPrompter(nullptr);
     }
 
     void theNewestEightOpenTheirModuleAndAFileThatIsGoneIsDropped() {
         QSettings(QStringLiteral("MORVE"), QStringLiteral("morve")).clear();
-        ScriptedPrompter prompter;
-        setGuiPrompter(&prompter);
         QTemporaryDir dir;
-        MorveApp app(quickOptions());
-        app.start();
-        app.openModule("Form90");
-        settle();
+        ProgramInModule program("Form90");
+        MorveApp& app = program.app;
         FormState& s = app.module()->session().state();
         for (int k = 1; k <= kRecentFiles + 1; ++k) {
             s.setText("Form90.Text1", "viga " + std::to_string(k));
@@ -154,13 +145,12 @@ private slots:
         shownItems(*app.menu())[5]->trigger();
         settle();
         QVERIFY(!app.module());
-        QVERIFY(QString::fromStdString(prompter.messages().back().text).endsWith(
+        QVERIFY(QString::fromStdString(program.prompter.messages().back().text).endsWith(
             "v5.mor não existe mais e foi retirado da lista de arquivos recentes."));
         QCOMPARE(recentFiles().size(), kRecentFiles - 1);
         QCOMPARE(shownItems(*app.menu()).size(), kRecentFiles - 1);
         app.shutdown();
         settle();
-        setGuiPrompter(nullptr);
     }
 };
 

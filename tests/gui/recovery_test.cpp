@@ -48,12 +48,8 @@ QLineEdit* firstBox(MorveApp& app) {
 
 // The child: types, calculates, says so and waits to be killed.
 int typeAndWait() {
-    ScriptedPrompter prompter;
-    setGuiPrompter(&prompter);
-    MorveApp app(quickOptions());
-    app.start();
-    app.openModule(kModule);
-    settle();
+    ProgramInModule program(kModule);
+    MorveApp& app = program.app;
     fillEveryInput(app.module()->session().state());
     app.module()->refreshWindows();
     firstBox(app)->clear();
@@ -130,12 +126,8 @@ private slots:
 
     void aChangeIsWrittenWithoutACalculation() {
         RecoveryKeeper::setInterval(50);
-        ScriptedPrompter prompter;
-        setGuiPrompter(&prompter);
-        MorveApp app(quickOptions());
-        app.start();
-        app.openModule(kModule);
-        settle();
+        ProgramInModule program(kModule);
+        MorveApp& app = program.app;
         firstBox(app)->clear();
         QTest::keyClicks(firstBox(app), kTyped);
         QTRY_VERIFY_WITH_TIMEOUT(recoveryFileExists(), 2000);
@@ -145,7 +137,6 @@ private slots:
         app.shutdown();
         settle();
         QTRY_VERIFY(!recoveryFileExists());
-        setGuiPrompter(nullptr);
     }
 };
 
